@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "model/command_runner.h"
+
+#include "model/diagnostics.h"
+#include "model/git_environment.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QStringDecoder>
+
+#include <optional>
+
+namespace tarnwick {
+
+namespace {
+
+constexpr int noTimeout = -1;
+
+std::optional<QString> decodedUtf8(const QByteArray& bytes)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless |
+                                                     QStringDecoder::Flag::ConvertInitialBom);
+    QString text = decoder.decode(bytes);
+    return decoder.hasError() ? std::nullopt : std::optional(std::move(text));
+}
+
+/// The diagnostic lines name the programs by these paths wherever they are installed.
+void writeCommandLine(const QString& program, const QStringList& arguments)
+{
+    writeDiagnosticLine(program + u' ' + arguments.join(u' '));
+}
+
+} // namespace
+
+void CommandRunner::runGit(const QStringList& arguments, std::shared_ptr<RepoViewModel> record,
+                           Completion completion) const
+{
+    writeCommandLine(QStringLiteral("/usr/bin/git"), arguments);
+
+    QProcess git;
+    git.setProgram(m_programs.git);
+    git.setArguments(arguments);
+    git.setInputChannelMode(QProcess::ForwardedInputChannel);
+    git.setProcessEnvironment(gitEnvironment(QProcessEnvironment::systemEnvironment()));
+    git.start();
+    if (!git.waitForStarted(noTimeout))
+        stopProcess();
+    git.waitForFinished(noTimeout);
+
+    if (auto output = decodedUtf8(git.readAllStandardOutput())) {
+        // A git that hung until the end of the application has nobody left to tell.
+        if (auto* const application = QCoreApplication::instance()) {
+            QMetaObject::invokeMethod(
+                application,
+                [output = std::move(*output), record = std::move(record),
+                 completion = std::move(completion)] { completion(output, *record); },
+                Qt::QueuedConnection);
+        }
+        return;
+    }
+    if (const auto error = decodedUtf8(git.readAllStandardError())) {
+        writeDiagnosticLine(*error);
+        completion(QStringLiteral("1?"), *record);
+    }
+}
+
+void CommandRunner::runOpen(const QStringList& arguments) const
+{
+    writeCommandLine(QStringLiteral("/usr/bin/open"), arguments);
+
+    QProcess open;
+    open.setProgram(m_programs.open);
+    open.setArguments(arguments);
+    open.setProcessChannelMode(QProcess::ForwardedChannels);
+    open.setInputChannelMode(QProcess::ForwardedInputChannel);
+    open.start();
+    if (!open.waitForStarted(noTimeout)) {
+        writeDiagnosticLine(open.errorString());
+        return;
+    }
+    open.waitForFinished(noTimeout);
+}
+
+} // namespace tarnwick

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+namespace tarnwick {
+
+class RepoViewModel;
+
+/// Starts external programs, without a shell in between and without a working directory of their
+/// own. Failures of the programs themselves show only in what they print: exit statuses are never
+/// looked at. Holds nothing between calls, so calls from several threads are independent.
+class CommandRunner
+{
+public:
+    /// Absolute paths of the two programs that are ever started.
+    struct Programs
+    {
+        QString git = QStringLiteral("/usr/bin/git");
+        /// Opens a directory in an application, or shows a file in the file manager.
+        QString open;
+    };
+
+    /// Receives what git printed, untrimmed, and the record on whose behalf it ran.
+    using Completion = std::function<void(const QString& output, RepoViewModel& record)>;
+
+    explicit CommandRunner(Programs programs)
+        : m_programs(std::move(programs))
+    {
+    }
+
+    /// Blocks the calling thread until git has exited; there is no time-out. The completion then
+    /// runs later on the main thread, and the record is kept alive until it has run.
+    ///
+    /// Output that is not UTF-8 makes the completion run at once on the calling thread with the
+    /// text "1?"; if the error output is not UTF-8 either, the completion never runs. A git that
+    /// cannot be started ends the process.
+    void runGit(const QStringList& arguments, std::shared_ptr<RepoViewModel> record,
+                Completion completion) const;
+
+    /// Blocks the calling thread until the program has exited. Its channels are ours. If it cannot
+    /// be started, one diagnostic line says why.
+    void runOpen(const QStringList& arguments) const;
+
+private:
+    Programs m_programs;
+};
+
+} // namespace tarnwick

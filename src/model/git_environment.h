@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QProcessEnvironment>
+
+namespace tarnwick {
+
+/// The environment in which git runs for us: `inherited`, less what would point git at another
+/// repository than the one named by "-C", and with its output in the words and the form that our
+/// parsing reads. The user's git configuration stays in force, colour excepted.
+[[nodiscard]] QProcessEnvironment gitEnvironment(QProcessEnvironment inherited);
+
+} // namespace tarnwick

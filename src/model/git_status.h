@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// Reading of git's short status with branch header (`git status -sb`, "Short Format" in
+/// git-status(1)): a header line that begins with "## ", then one line per path, made of a
+/// two-character code, a space and the path; every line ends with a line feed.
+///
+/// The reading is textual on purpose: counts come from searches over the whole text, so a path
+/// that contains a status code is counted too. All functions are pure.
+namespace tarnwick {
+
+/// Splits at every occurrence of each separator in turn and trims spaces and tabs, but no line
+/// feeds, from each piece. Empty pieces stay: there is always one piece more than occurrences.
+[[nodiscard]] QStringList components2(const QString& text, const QStringList& separators);
+
+// The parts of the summary: a decimal count, a no-break space and a word; nothing when the count
+// is none.
+[[nodiscard]] std::optional<QString> changesString(const QString& gitStatus);
+[[nodiscard]] std::optional<QString> behindString(const QString& gitStatus);
+[[nodiscard]] std::optional<QString> aheadString(const QString& gitStatus);
+[[nodiscard]] std::optional<QString> addedString(const QString& gitStatus);
+[[nodiscard]] std::optional<QString> untrackedString(const QString& gitStatus);
+[[nodiscard]] std::optional<QString> stagedString(const QString& gitStatus);
+[[nodiscard]] std::optional<QString> removedString(const QString& gitStatus);
+[[nodiscard]] std::optional<QString> deletedString(const QString& gitStatus);
+
+/// All parts that apply, in the order of the declarations above, joined by ", "; nothing for a
+/// clean working tree that is level with its upstream.
+[[nodiscard]] std::optional<QString> statusSummary(const QString& gitStatus);
+
+/// The status lines of the changed paths. A path changed both in the index and in the working tree
+/// ("MM ") stands at the end as two lines, staged ("M  ") and changed (" M "). Stops the process
+/// for a text without any line feed, which is no status.
+[[nodiscard]] QStringList changedFiles(const QString& gitStatus);
+
+} // namespace tarnwick

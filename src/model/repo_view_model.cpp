@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "model/repo_view_model.h"
+
+#include "model/background_queue.h"
+#include "model/command_runner.h"
+#include "model/diagnostics.h"
+#include "model/git_status.h"
+
+#include <QFileInfo>
+#include <QThread>
+
+namespace tarnwick {
+
+namespace {
+
+/// The last holder of a record may be a worker thread that has just finished its query.
+void destroyOnItsThread(RepoViewModel* record)
+{
+    if (QThread::currentThread() == record->thread())
+        delete record;
+    else
+        record->deleteLater();
+}
+
+std::optional<QString> partOf(const std::optional<QString>& gitStatus,
+                              std::optional<QString> (*part)(const QString&))
+{
+    return gitStatus ? part(*gitStatus) : std::nullopt;
+}
+
+} // namespace
+
+std::shared_ptr<RepoViewModel> RepoViewModel::create(
+    QString dir, std::shared_ptr<RepoViewModelDelegate> delegate, RepoServices services)
+{
+    const std::shared_ptr<RepoViewModel> record(
+        new RepoViewModel(std::move(dir), std::move(delegate), services), destroyOnItsThread);
+    record->loadLogo();
+    record->startQueries();
+    return record;
+}
+
+RepoViewModel::RepoViewModel(QString dir, std::shared_ptr<RepoViewModelDelegate> delegate,
+                             RepoServices services)
+    : m_dir(std::move(dir))
+    , m_name(m_dir.split(u'/').constLast())
+    , m_delegate(std::move(delegate))
+    , m_services(services)
+{
+}
+
+void RepoViewModel::loadLogo()
+{
+    QImage logo(m_dir + QStringLiteral("/TarnwickLogo.png"), "PNG");
+    if (!logo.isNull())
+        m_logo = std::move(logo);
+}
+
+void RepoViewModel::startQueries()
+{
+    if (!QFileInfo::exists(m_dir + QStringLiteral("/.git"))) {
+        writeDiagnosticLine(QStringLiteral("nmot repo"));
+        setIsRepo(false);
+        return;
+    }
+    setIsRepo(true);
+    refreshStatusInBackground();
+    refreshBranch();
+}
+
+void RepoViewModel::refreshBranch()
+{
+    if (!m_isRepo)
+        return;
+    m_services.runner.runGit({QStringLiteral("-C"), m_dir, QStringLiteral("rev-parse"),
+                              QStringLiteral("--symbolic-full-name"),
+                              QStringLiteral("--abbrev-ref"), QStringLiteral("HEAD")},
+                             shared_from_this(), [](const QString& output, RepoViewModel& record) {
+                                 record.setBranchString(QString(output).remove(u'\n'));
+                             });
+}
+
+void RepoViewModel::refreshStatus()
+{
+    const auto self = shared_from_this();
+    QMetaObject::invokeMethod(this, [self] { self->setIsLoading(true); }, Qt::QueuedConnection);
+    m_services.runner.runGit(
+        {QStringLiteral("-C"), m_dir, QStringLiteral("status"), QStringLiteral("-sb")}, self,
+        [self](const QString& output, RepoViewModel& record) {
+            // The runner may call from the worker thread; the fields belong to the main thread.
+            QMetaObject::invokeMethod(&record, [self, output] { self->applyStatus(output); });
+        });
+}
+
+void RepoViewModel::refreshStatusInBackground()
+{
+    if (m_isRepo)
+        m_services.queue.post([self = shared_from_this()] { self->refreshStatus(); });
+}
+
+void RepoViewModel::applyStatus(const QString& text)
+{
+    m_gitStatus = text;
+    setStatusString(statusSummary(text));
+    setIsLoading(false);
+}
+
+std::optional<QString> RepoViewModel::changesString() const
+{
+    return partOf(m_gitStatus, tarnwick::changesString);
+}
+
+std::optional<QString> RepoViewModel::behindString() const
+{
+    return partOf(m_gitStatus, tarnwick::behindString);
+}
+
+std::optional<QString> RepoViewModel::aheadString() const
+{
+    return partOf(m_gitStatus, tarnwick::aheadString);
+}
+
+std::optional<QString> RepoViewModel::addedString() const
+{
+    return partOf(m_gitStatus, tarnwick::addedString);
+}
+
+std::optional<QString> RepoViewModel::untrackedString() const
+{
+    return partOf(m_gitStatus, tarnwick::untrackedString);
+}
+
+std::optional<QString> RepoViewModel::stagedString() const
+{
+    return partOf(m_gitStatus, tarnwick::stagedString);
+}
+
+std::optional<QString> RepoViewModel::removedString() const
+{
+    return partOf(m_gitStatus, tarnwick::removedString);
+}
+
+std::optional<QString> RepoViewModel::deletedString() const
+{
+    return partOf(m_gitStatus, tarnwick::deletedString);
+}
+
+QStringList RepoViewModel::changedFiles() const
+{
+    return m_gitStatus ? tarnwick::changedFiles(*m_gitStatus) : QStringList();
+}
+
+bool RepoViewModel::isMainBranch() const
+{
+    return m_branchString == QStringLiteral("master") ||
+           m_branchString == QStringLiteral("develop") || m_branchString == QStringLiteral("main");
+}
+
+void RepoViewModel::setIsRepo(bool isRepo)
+{
+    m_isRepo = isRepo;
+    Q_EMIT isRepoChanged();
+}
+
+void RepoViewModel::setIsLoading(bool isLoading)
+{
+    m_isLoading = isLoading;
+    Q_EMIT isLoadingChanged();
+}
+
+void RepoViewModel::setStatusString(std::optional<QString> statusString)
+{
+    m_statusString = std::move(statusString);
+    Q_EMIT statusStringChanged();
+}
+
+void RepoViewModel::setBranchString(QString branchString)
+{
+    m_branchString = std::move(branchString);
+    Q_EMIT branchStringChanged();
+}
+
+void refreshAll(const RepoViewModels& models)
+{
+    for (const auto& record : models) {
+        record->refreshStatusInBackground();
+        record->refreshBranch();
+    }
+}
+
+} // namespace tarnwick

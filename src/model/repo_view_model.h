@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace tarnwick {
+
+class BackgroundQueue;
+class CommandRunner;
+
+/// Whoever shows the records and acts for them. What a record's views ask of it is declared here
+/// and implemented above.
+class RepoViewModelDelegate
+{
+public:
+    virtual ~RepoViewModelDelegate() = default;
+};
+
+/// What a record works with; both outlive every record.
+struct RepoServices
+{
+    CommandRunner& runner;
+    BackgroundQueue& queue;
+};
+
+/// One watched directory and what git last said about it.
+///
+/// Records are shared by the list, the rows that show them and the queries that run for them, and
+/// are replaced, never changed to another directory. Everything happens on the main thread but
+/// `refreshStatus()`. Published fields emit on every assignment, equal values included, and keep
+/// their last value while a query runs. Failures of git show as empty or absent fields.
+class RepoViewModel : public QObject, public std::enable_shared_from_this<RepoViewModel>
+{
+    Q_OBJECT
+
+public:
+    /// Looks once for a ".git" entry. With one, blocks for a git run (the branch) and starts
+    /// another in the background (the status); without one, no git ever runs for this record.
+    [[nodiscard]] static std::shared_ptr<RepoViewModel>
+    create(QString dir, std::shared_ptr<RepoViewModelDelegate> delegate, RepoServices services);
+
+    [[nodiscard]] const QString& dir() const { return m_dir; }
+    /// The last path component; empty for a path that ends in "/".
+    [[nodiscard]] const QString& name() const { return m_name; }
+    [[nodiscard]] const std::shared_ptr<RepoViewModelDelegate>& delegate() const
+    {
+        return m_delegate;
+    }
+    /// The picture that the repository brings along at its top level, if it can be read.
+    [[nodiscard]] const std::optional<QImage>& logo() const { return m_logo; }
+
+    [[nodiscard]] bool isRepo() const { return m_isRepo; }
+    [[nodiscard]] bool isLoading() const { return m_isLoading; }
+    [[nodiscard]] const std::optional<QString>& statusString() const { return m_statusString; }
+    [[nodiscard]] const std::optional<QString>& branchString() const { return m_branchString; }
+    /// The whole output of the last status query.
+    [[nodiscard]] const std::optional<QString>& gitStatus() const { return m_gitStatus; }
+
+    /// Blocks for one git run; the branch arrives later.
+    void refreshBranch();
+    /// Blocks for one git run on whatever thread calls it; its results arrive on the main thread.
+    void refreshStatus();
+    void refreshStatusInBackground();
+
+    // The parts of the summary and the changed paths, read from `gitStatus`; see git_status.h.
+    [[nodiscard]] std::optional<QString> changesString() const;
+    [[nodiscard]] std::optional<QString> behindString() const;
+    [[nodiscard]] std::optional<QString> aheadString() const;
+    [[nodiscard]] std::optional<QString> addedString() const;
+    [[nodiscard]] std::optional<QString> untrackedString() const;
+    [[nodiscard]] std::optional<QString> stagedString() const;
+    [[nodiscard]] std::optional<QString> removedString() const;
+    [[nodiscard]] std::optional<QString> deletedString() const;
+    [[nodiscard]] QStringList changedFiles() const;
+
+    /// Whether the branch is a main line of development, by its name.
+    [[nodiscard]] bool isMainBranch() const;
+
+    /// Records of one directory are equal.
+    friend bool operator==(const RepoViewModel& a, const RepoViewModel& b)
+    {
+        return a.m_dir == b.m_dir;
+    }
+    friend std::size_t qHash(const RepoViewModel& record, std::size_t seed = 0)
+    {
+        return ::qHash(record.m_dir, seed);
+    }
+
+Q_SIGNALS:
+    void isRepoChanged();
+    void isLoadingChanged();
+    void statusStringChanged();
+    void branchStringChanged();
+
+private:
+    RepoViewModel(QString dir, std::shared_ptr<RepoViewModelDelegate> delegate,
+                  RepoServices services);
+
+    void loadLogo();
+    void startQueries();
+    void applyStatus(const QString& text);
+
+    void setIsRepo(bool isRepo);
+    void setIsLoading(bool isLoading);
+    void setStatusString(std::optional<QString> statusString);
+    void setBranchString(QString branchString);
+
+    const QString m_dir;
+    const QString m_name;
+    const std::shared_ptr<RepoViewModelDelegate> m_delegate;
+    const RepoServices m_services;
+    std::optional<QImage> m_logo;
+
+    bool m_isRepo = true;
+    bool m_isLoading = false;
+    std::optional<QString> m_statusString;
+    std::optional<QString> m_branchString;
+    std::optional<QString> m_gitStatus;
+};
+
+using RepoViewModels = std::vector<std::shared_ptr<RepoViewModel>>;
+
+/// Starts a status query in the background for each repository of the list, and blocks for its
+/// branch query.
+void refreshAll(const RepoViewModels& models);
+
+} // namespace tarnwick
