@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: MIT
+#include "model/background_queue.h"
+#include "model/bound_setting.h"
+#include "model/command_runner.h"
+#include "model/preferences_store.h"
+#include "model/repo_manager.h"
+#include "support/temporary_repository.h"
+#include "support/test_registry.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QThread>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace tarnwick;
+using namespace tarnwick::test;
+
+namespace {
+
+struct Delegate : RepoViewModelDelegate
+{
+};
+
+} // namespace
+
+class PreferencesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void typesSurviveARestart();
+    void absentAndMistypedReadAsDefaults();
+    void firstRunDefaultsAreWrittenOnce();
+    void boundSettingsFollowTheKey();
+    void unreadableFileIsSetAside_data();
+    void unreadableFileIsSetAside();
+    void unwritablePlaceForgetsButWorks();
+    void writesFromOtherThreads();
+
+    void listIsLoadedAsStored_data();
+    void listIsLoadedAsStored();
+    void listEditsAreStored();
+    void savedListSurvivesSigkill();
+
+private:
+    [[nodiscard]] RepoManager manager(PreferencesStore& store)
+    {
+        return {store, {m_runner, m_queue}, [] { return std::make_shared<Delegate>(); }};
+    }
+    [[nodiscard]] static QStringList dirs(const RepoManager& manager)
+    {
+        QStringList dirs;
+        for (const auto& model : manager.models())
+            dirs += model->dir();
+        return dirs;
+    }
+
+    const CommandRunner m_runner{{}};
+    BackgroundQueue m_queue;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_path;
+};
+
+void PreferencesTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_path = m_folder->filePath(u"sub/preferences.json"_qs);
+}
+
+void PreferencesTest::typesSurviveARestart()
+{
+    {
+        PreferencesStore store(m_path);
+        store.setBool(false, u"launchOnStartup"_qs);
+        store.setValue(true, u"onyIcons"_qs);
+        store.setObject(u"true"_qs, u"x\u00e9/-urls"_qs);
+        store.setObject(u"/a\n/b"_qs, u"repos"_qs);
+    }
+    QProcess reader;
+    reader.start(u"python3"_qs, {u"-c"_qs,
+                                 u"import json,sys;print(sorted(json.load(open(sys.argv[1]))"
+                                 ".items()), end='')"_qs,
+                                 m_path});
+    QVERIFY(reader.waitForFinished());
+    QCOMPARE(QString::fromUtf8(reader.readAll()),
+             u"[('launchOnStartup', False), ('onyIcons', True), ('repos', '/a\\n/b'), "
+             "('x\u00e9/-urls', 'true')]"_qs);
+    const PreferencesStore again(m_path);
+    QCOMPARE(again.dictionaryRepresentation().value(u"onyIcons"_qs), QVariant(true));
+    QCOMPARE(again.stringForKey(u"x\u00e9/-urls"_qs), u"true"_qs);
+}
+
+void PreferencesTest::absentAndMistypedReadAsDefaults()
+{
+    writeFile(m_path, R"({"repos": true, "onyIcons": "true", "other": [1]})");
+    PreferencesStore store(m_path);
+    QVERIFY(!store.stringForKey(u"repos"_qs));
+    QVERIFY(!store.boolForKey(u"onyIcons"_qs));
+    QVERIFY(!store.boolForKey(u"absent"_qs));
+    store.setBool(true, u"new"_qs);
+    store.synchronize();
+    const PreferencesStore again(m_path);
+    QCOMPARE(again.dictionaryRepresentation().keys(),
+             (QStringList{u"new"_qs, u"onyIcons"_qs, u"other"_qs, u"repos"_qs}));
+}
+
+void PreferencesTest::firstRunDefaultsAreWrittenOnce()
+{
+    PreferencesStore store(m_path);
+    writeFirstRunDefaults(store);
+    const QVariantMap expected{{u"hasWrittenDefaultsOnce"_qs, true},
+                               {u"showinapps___Atom.app"_qs, true},
+                               {u"showinapps___Sourcetree.app"_qs, true},
+                               {u"showinapps___Sublime Text.app"_qs, true}};
+    QCOMPARE(store.dictionaryRepresentation(), expected);
+    store.setBool(false, u"showinapps___Atom.app"_qs);
+    writeFirstRunDefaults(store);
+    QVERIFY(!store.boolForKey(u"showinapps___Atom.app"_qs));
+}
+
+void PreferencesTest::boundSettingsFollowTheKey()
+{
+    PreferencesStore store(m_path);
+    BoundSetting here(store, preferences::showCleanRepoStatus);
+    BoundSetting there(store, preferences::showCleanRepoStatus);
+    const QSignalSpy changes(&there, &BoundSetting::valueChanged);
+    QVERIFY(here.value());
+    QVERIFY(store.dictionaryRepresentation().isEmpty());
+    here.setValue(false);
+    store.setBool(true, u"onyIcons"_qs);
+    QCOMPARE(changes, QList<QVariantList>{{false}});
+    QVERIFY(!there.value());
+}
+
+void PreferencesTest::unreadableFileIsSetAside_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("cut off") << QByteArray("{\"repos\": \"/a");
+    QTest::newRow("no object") << QByteArray("[]");
+    QTest::newRow("empty") << QByteArray();
+}
+
+void PreferencesTest::unreadableFileIsSetAside()
+{
+    QFETCH(QByteArray, content);
+    for (int round = 0; round < 2; ++round) {
+        writeFile(m_path, content);
+        PreferencesStore store(m_path);
+        QVERIFY(store.dictionaryRepresentation().isEmpty());
+        store.setBool(true, u"onyIcons"_qs);
+    }
+    QDir folder = QFileInfo(m_path).dir();
+    QCOMPARE(folder.entryList(QDir::Files).size(), 3);
+    for (const QFileInfo& entry : folder.entryInfoList({u"*.unreadable-*"_qs})) {
+        QFile kept(entry.filePath());
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        QCOMPARE(kept.readAll(), content);
+    }
+}
+
+void PreferencesTest::unwritablePlaceForgetsButWorks()
+{
+    writeFile(m_folder->filePath(u"sub"_qs), "a file where the folder should be");
+    PreferencesStore store(m_path);
+    store.setBool(true, u"onyIcons"_qs);
+    store.synchronize();
+    QVERIFY(store.boolForKey(u"onyIcons"_qs));
+}
+
+void PreferencesTest::writesFromOtherThreads()
+{
+    PreferencesStore store(m_path);
+    BoundSetting setting(store, preferences::onlyIcons);
+    const QSignalSpy changes(&setting, &BoundSetting::valueChanged);
+    std::unique_ptr<QThread> writer(QThread::create([&store] {
+        for (int i = 0; i < 50; ++i)
+            store.setBool(i % 2 == 0, u"onyIcons"_qs);
+        store.synchronize();
+    }));
+    writer->start();
+    for (int i = 0; i < 50; ++i)
+        store.setObject(QString::number(i), u"repos"_qs);
+    QVERIFY(writer->wait());
+    QTRY_COMPARE(changes.size(), 50);
+    store.synchronize();
+    QCOMPARE(PreferencesStore(m_path).stringForKey(u"repos"_qs), u"49"_qs);
+}
+
+void PreferencesTest::listIsLoadedAsStored_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QStringList>("loaded");
+    QTest::newRow("empty") << u""_qs << QStringList();
+    QTest::newRow("one trailing slash less")
+        << u"/a/\n/b//\n/c"_qs << QStringList{u"/a"_qs, u"/b/"_qs, u"/c"_qs};
+    QTest::newRow("empty entry persists") << u"/a\n"_qs << QStringList{u"/a"_qs, {}};
+    QTest::newRow("duplicates") << u"/a\n/a"_qs << QStringList{u"/a"_qs, u"/a"_qs};
+}
+
+void PreferencesTest::listIsLoadedAsStored()
+{
+    QFETCH(QString, stored);
+    PreferencesStore store(m_path);
+    store.setObject(stored, u"repos"_qs);
+    RepoManager list = manager(store);
+    QTEST(dirs(list), "loaded");
+    QCOMPARE(store.stringForKey(u"repos"_qs), stored);
+    list.save();
+    QFETCH(QStringList, loaded);
+    QCOMPARE(store.stringForKey(u"repos"_qs), loaded.join(u'\n'));
+}
+
+void PreferencesTest::listEditsAreStored()
+{
+    PreferencesStore store(m_path);
+    RepoManager list = manager(store);
+    QVERIFY(list.models().empty());
+    QVERIFY(!store.stringForKey(u"repos"_qs));
+
+    const auto delegate = std::make_shared<Delegate>();
+    for (const auto* dir : {u"/one", u"/two/", u" three", u"/one"})
+        list.add(QString::fromUtf16(dir), delegate);
+    QCOMPARE(store.stringForKey(u"repos"_qs), u"/one\n three\n/two\n/one"_qs);
+    QCOMPARE(dirs(list), (QStringList{u"/one"_qs, u" three"_qs, u"/two"_qs, u"/one"_qs}));
+    QVERIFY(list.models().front()->delegate() != delegate);
+
+    const auto kept = list.models().back();
+    const QSignalSpy rebuilt(&list, &RepoManager::modelsChanged);
+    list.remove(*kept);
+    QVERIFY(!rebuilt.isEmpty());
+    RepoViewModels reordered = list.models();
+    std::reverse(reordered.begin(), reordered.end());
+    list.setModels(reordered);
+    list.save();
+    QCOMPARE(PreferencesStore(m_path).stringForKey(u"repos"_qs), u"/two\n three"_qs);
+    QCOMPARE(kept->name(), u"one"_qs);
+}
+
+void PreferencesTest::savedListSurvivesSigkill()
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        PreferencesStore store(m_path);
+        RepoManager list = manager(store);
+        list.add(u"/kept"_qs, nullptr);
+        std::raise(SIGKILL);
+    }
+    int status = 0;
+    QCOMPARE(waitpid(child, &status, 0), child);
+    QCOMPARE(PreferencesStore(m_path).stringForKey(u"repos"_qs), u"/kept"_qs);
+}
+
+TARNWICK_TEST(PreferencesTest)
+
+#include "preferences_test.moc"

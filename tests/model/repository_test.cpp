@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+#include "model/background_queue.h"
+#include "model/command_runner.h"
+#include "model/repo_view_model.h"
+#include "support/temporary_repository.h"
+#include "support/test_registry.h"
+
+#include <QImage>
+#include <QTest>
+
+using namespace tarnwick;
+using namespace tarnwick::test;
+
+/// Records of real repositories, made by real git.
+class RepositoryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsRealRepositories_data();
+    void readsRealRepositories();
+    void readsLinkedWorkTreesAndSubmodules();
+    void surroundingsChangeNothing_data();
+    void surroundingsChangeNothing();
+    void namesThePathsOfOddFolders();
+    void plainFolderRunsNoGit();
+    void staysWhatItWasAtCreation();
+    void loadsItsLogo();
+    void lateResultsOutliveTheRecordsHolder();
+    void equalByDirectory();
+
+private:
+    [[nodiscard]] std::shared_ptr<RepoViewModel> record(const QString& dir)
+    {
+        return RepoViewModel::create(dir, nullptr, {m_runner, m_queue});
+    }
+    /// The branch and the summary, once both queries have ended.
+    QString settled(const RepoViewModel& record)
+    {
+        if (!QTest::qWaitFor([&] { return record.gitStatus() && record.branchString(); }, 10000))
+            return u"never settled"_qs;
+        return record.branchString().value() + u": "_qs +
+               record.statusString().value_or(u"clean"_qs).replace(QChar::Nbsp, u' ');
+    }
+
+    const CommandRunner m_runner{{}};
+    BackgroundQueue m_queue;
+};
+
+void RepositoryTest::readsRealRepositories_data()
+{
+    QTest::addColumn<QStringList>("commands");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char* name, const QStringList& commands, const QString& expected) {
+        QTest::newRow(name) << commands << expected;
+    };
+    const QString upstream = u"git clone -q --bare . ../up.git; git remote add origin ../up.git;"
+                             "git fetch -q; git branch -q -u origin/main"_qs;
+    const QString ahead = u"echo x >> a; git commit -q -am more"_qs;
+    const QString behind = u"git reset -q --hard HEAD~; git push -q -f origin HEAD@{1}:main;"
+                           "git fetch -q"_qs;
+
+    row("clean", {}, u"main: clean"_qs);
+    row("level with its upstream", {upstream}, u"main: clean"_qs);
+    row("ahead", {upstream, ahead, ahead}, u"main: 2 ahead"_qs);
+    row("behind", {upstream, ahead, behind}, u"main: 1 behind"_qs);
+    row("diverged", {upstream, ahead, behind, u"echo y > n; git add n; git commit -q -m n"_qs},
+        u"main: 1 behind, 1 ahead"_qs);
+    row("all six of the working tree",
+        {u"echo x >> a; echo x >> b; git add b; git rm -q c; rm d; touch e f; git add e"_qs},
+        u"main: 1 change, 1 added, 1 untracked, 1 staged, 1 removed, 1 deleted"_qs);
+    row("feature branch", {u"git checkout -q -b feature/x"_qs}, u"feature/x: clean"_qs);
+    row("detached head", {u"git checkout -q --detach"_qs}, u"HEAD: clean"_qs);
+    row("unborn branch", {u"rm -rf .git; git init -q -b main"_qs}, u"HEAD: 4 untracked"_qs);
+    row("conflict", {u"git checkout -q -b o; echo o > a; git commit -q -am o"_qs,
+                     u"git checkout -q main; echo m > a; git commit -q -am m"_qs,
+                     u"git merge -q o || true"_qs},
+        u"main: clean"_qs);
+    row("rename", {u"git mv a z; echo x >> b"_qs}, u"main: 1 change"_qs);
+    row("not git's after all", {u"rm -rf .git; mkdir .git"_qs}, u": clean"_qs);
+}
+
+void RepositoryTest::readsRealRepositories()
+{
+    QFETCH(QStringList, commands);
+    const TemporaryRepository repository;
+    repository.run(commands);
+    QTEST(settled(*record(repository.dir())), "expected");
+}
+
+void RepositoryTest::readsLinkedWorkTreesAndSubmodules()
+{
+    const TemporaryRepository repository;
+    repository.run({u"git worktree add -q -b side ../tree; touch ../tree/n"_qs,
+                    u"git init -q -b main ../outer; cd ../outer"_qs,
+                    u"git -c protocol.file.allow=always submodule --quiet add ../repo inner"_qs,
+                    u"echo x >> inner/a"_qs});
+    QCOMPARE(settled(*record(repository.beside(u"tree"_qs))), u"side: 1 untracked"_qs);
+    QCOMPARE(settled(*record(repository.beside(u"outer/inner"_qs))), u"main: 1 change"_qs);
+}
+
+void RepositoryTest::surroundingsChangeNothing_data()
+{
+    QTest::addColumn<QByteArray>("variable");
+    QTest::addColumn<QByteArray>("value");
+    QTest::newRow("language") << QByteArray("LANG") << QByteArray("de_DE.UTF-8");
+    QTest::newRow("preferred languages") << QByteArray("LANGUAGE") << QByteArray("de:fr");
+    QTest::newRow("git folder") << QByteArray("GIT_DIR") << QByteArray("/nonexistent/.git");
+    QTest::newRow("work tree") << QByteArray("GIT_WORK_TREE") << QByteArray("/");
+    QTest::newRow("index") << QByteArray("GIT_INDEX_FILE") << QByteArray("/nonexistent/index");
+    QTest::newRow("parameters") << QByteArray("GIT_CONFIG_PARAMETERS")
+                                << QByteArray("'status.branch'='false' 'color.status'='always'");
+    QTest::newRow("count") << QByteArray("GIT_CONFIG_COUNT") << QByteArray("nonsense");
+}
+
+void RepositoryTest::surroundingsChangeNothing()
+{
+    QFETCH(QByteArray, variable);
+    QFETCH(QByteArray, value);
+    const TemporaryRepository repository;
+    repository.run({u"git clone -q --bare . ../up.git; git remote add origin ../up.git"_qs,
+                    u"git fetch -q; git branch -q -u origin/main; git config color.status always"_qs,
+                    u"git config color.ui always; git commit -q --allow-empty -m x; echo x >> a"_qs});
+    qputenv(variable.constData(), value);
+    const QString read = settled(*record(repository.dir()));
+    qunsetenv(variable.constData());
+    QCOMPARE(read, u"main: 1 change, 1 ahead"_qs);
+}
+
+void RepositoryTest::namesThePathsOfOddFolders()
+{
+    const TemporaryRepository repository(u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_qs);
+    repository.write(u"A M \u00e9.txt"_qs, "new");
+    const auto odd = record(repository.dir());
+    QCOMPARE(odd->name(), u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_qs);
+    QCOMPARE(settled(*odd), u"main: 1 change, 1 untracked"_qs);
+    // Git quotes such a name.
+    QCOMPARE(odd->changedFiles(), QStringList{u"?? \"A M \\303\\251.txt\""_qs});
+    QCOMPARE(record(u"/nonexistent/"_qs)->name(), QString());
+}
+
+void RepositoryTest::plainFolderRunsNoGit()
+{
+    const QTemporaryDir folder;
+    // A record that ran this git would end the process.
+    const CommandRunner noGit{{.git = u"/nonexistent/git"_qs}};
+    const auto plain = RepoViewModel::create(folder.path(), nullptr, {noGit, m_queue});
+    refreshAll({plain});
+    QVERIFY(!plain->isRepo());
+    QVERIFY(!plain->statusString() && !plain->branchString() && !plain->isLoading());
+}
+
+void RepositoryTest::staysWhatItWasAtCreation()
+{
+    const TemporaryRepository repository;
+    const auto watched = record(repository.dir());
+    QStringList loading;
+    connect(watched.get(), &RepoViewModel::isLoadingChanged, watched.get(),
+            [&] { loading += watched->isLoading() ? u"on"_qs : u"off"_qs; });
+    QCOMPARE(settled(*watched), u"main: clean"_qs);
+    QVERIFY(watched->isMainBranch());
+
+    repository.run({u"git checkout -q -b Main; touch n"_qs});
+    refreshAll({watched});
+    QTRY_COMPARE(watched->statusString(), u"1\u00a0untracked"_qs);
+    QTRY_COMPARE(watched->branchString(), u"Main"_qs);
+    QVERIFY(!watched->isMainBranch());
+    QCOMPARE(loading, (QStringList{u"on"_qs, u"off"_qs, u"on"_qs, u"off"_qs}));
+
+    repository.run({u"rm -rf .git"_qs});
+    refreshAll({watched});
+    QTRY_COMPARE(watched->branchString(), QString());
+    QTRY_VERIFY(!watched->statusString());
+    QVERIFY(watched->isRepo());
+}
+
+void RepositoryTest::loadsItsLogo()
+{
+    const TemporaryRepository repository;
+    QVERIFY(!record(repository.dir())->logo());
+    repository.write(u"TarnwickLogo.png"_qs, "no picture");
+    QVERIFY(!record(repository.dir())->logo());
+    QImage picture(3, 5, QImage::Format_RGB32);
+    QVERIFY(picture.save(repository.dir() + u"/TarnwickLogo.png"_qs));
+    QCOMPARE(record(repository.dir())->logo().value().size(), QSize(3, 5));
+}
+
+void RepositoryTest::lateResultsOutliveTheRecordsHolder()
+{
+    const TemporaryRepository repository;
+    std::weak_ptr<RepoViewModel> discarded = record(repository.dir());
+    QVERIFY(!discarded.expired());
+    QTRY_VERIFY(discarded.expired());
+}
+
+void RepositoryTest::equalByDirectory()
+{
+    const auto first = record(u"/nonexistent/a"_qs);
+    const auto second = record(u"/nonexistent/a"_qs);
+    const auto other = record(u"/nonexistent/A"_qs);
+    QVERIFY(*first == *second && qHash(*first) == qHash(*second));
+    QVERIFY(!(*first == *other));
+}
+
+TARNWICK_TEST(RepositoryTest)
+
+#include "repository_test.moc"

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace tarnwick::test {
+
+inline void writeFile(const QString& path, const QByteArray& content)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+/// Real git in a real folder, with the user's and the system's configuration switched off.
+class TemporaryRepository
+{
+public:
+    /// A repository on branch "main" with the committed files a, b, c and d.
+    explicit TemporaryRepository(const QString& folder = QStringLiteral("repo"))
+        : m_dir(m_root.filePath(folder))
+    {
+        QDir().mkpath(m_dir);
+        git({u"init -q -b main"_qs});
+        for (const auto* name : {u"a", u"b", u"c", u"d"})
+            write(QString::fromUtf16(name), "first\n");
+        commitAll();
+    }
+
+    [[nodiscard]] const QString& dir() const { return m_dir; }
+    /// A path beside the repository.
+    [[nodiscard]] QString beside(const QString& name) const { return m_root.filePath(name); }
+
+    void write(const QString& path, const QByteArray& content) const
+    {
+        writeFile(m_dir + u'/' + path, content);
+    }
+
+    /// Runs each line as a shell command in the repository; all must succeed.
+    void run(const QStringList& lines) const
+    {
+        QProcess shell;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"GIT_CONFIG_GLOBAL"_qs, u"/dev/null"_qs);
+        environment.insert(u"GIT_CONFIG_NOSYSTEM"_qs, u"1"_qs);
+        for (const auto* who : {u"AUTHOR", u"COMMITTER"}) {
+            const QString prefix = u"GIT_"_qs + QString::fromUtf16(who);
+            environment.insert(prefix + u"_NAME"_qs, u"Test"_qs);
+            environment.insert(prefix + u"_EMAIL"_qs, u"test@localhost"_qs);
+        }
+        shell.setProcessEnvironment(environment);
+        shell.setWorkingDirectory(m_dir);
+        shell.setProcessChannelMode(QProcess::MergedChannels);
+        shell.start(u"/bin/sh"_qs, {u"-ec"_qs, lines.join(u'\n')});
+        QVERIFY(shell.waitForFinished());
+        QVERIFY2(shell.exitCode() == 0, shell.readAll().constData());
+    }
+
+    void git(const QStringList& commands) const
+    {
+        QStringList lines;
+        for (const QString& command : commands)
+            lines += u"git "_qs + command;
+        run(lines);
+    }
+
+    void commitAll() const { git({u"add -A"_qs, u"commit -q -m work"_qs}); }
+
+private:
+    QTemporaryDir m_root;
+    QString m_dir;
+};
+
+} // namespace tarnwick::test
