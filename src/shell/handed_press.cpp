@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "shell/handed_press.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QWidget>
+
+namespace tarnwick {
+
+HandedPress::HandedPress(QWidget& target, const QMouseEvent& press)
+    : QObject(&target)
+    , m_target(target)
+{
+    give(press);
+    qApp->installEventFilter(this);
+}
+
+bool HandedPress::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::MouseButtonRelease || !watched->isWidgetType())
+        return false;
+    qApp->removeEventFilter(this);
+    deleteLater();
+    if (watched == &m_target)
+        return false;
+    give(*static_cast<QMouseEvent*>(event));
+    return true;
+}
+
+void HandedPress::give(const QMouseEvent& event)
+{
+    const QPointF position = m_target.mapFromGlobal(event.globalPosition());
+    QMouseEvent given(event.type() == QEvent::MouseButtonRelease ? QEvent::MouseButtonRelease
+                                                                 : QEvent::MouseButtonPress,
+                      position, event.globalPosition(), event.button(), event.buttons(),
+                      event.modifiers(), event.pointingDevice());
+    QCoreApplication::sendEvent(&m_target, &given);
+}
+
+} // namespace tarnwick

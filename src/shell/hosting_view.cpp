@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "shell/hosting_view.h"
+
+#include "shell/key_window.h"
+
+#include <QAccessible>
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+namespace tarnwick {
+
+HostingView::HostingView(QWidget* rootView, QWidget* parent)
+    : QWidget(parent)
+{
+    setMinimumSize(10, 10);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(rootView);
+}
+
+void HostingView::setText(const QString& text)
+{
+    if (text == m_text)
+        return;
+    m_text = text;
+    QAccessibleEvent renamed(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
+    Q_EMIT textChanged();
+}
+
+void HostingView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    // A spontaneous event only uncovers the window; the view was in it all along.
+    if (event->spontaneous())
+        return;
+    if (auto* const keyWindow = dynamic_cast<KeyWindow*>(window()))
+        keyWindow->becomeKeyWindow();
+}
+
+} // namespace tarnwick

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+namespace tarnwick {
+
+/// Holds one piece of content, edge to edge, for a menu to show. Each time the window around it is
+/// shown, a `KeyWindow` is asked once to take the keyboard: an opened menu answers to keys at once.
+class HostingView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Owns `rootView`.
+    explicit HostingView(QWidget* rootView, QWidget* parent = nullptr);
+
+    /// What the content says, for those who do not see it.
+    [[nodiscard]] QString text() const { return m_text; }
+    void setText(const QString& text);
+
+Q_SIGNALS:
+    void textChanged();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QString m_text;
+};
+
+} // namespace tarnwick

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "shell/menu_placement.h"
+
+#include <algorithm>
+
+namespace tarnwick {
+
+namespace {
+
+/// Half the side of a usual status item.
+constexpr int pointerReach = 12;
+
+Qt::Edge nearestEdge(const QPoint& point, const QRect& available)
+{
+    const int vertical = std::min(point.y() - available.top(), available.bottom() - point.y());
+    const int horizontal = std::min(point.x() - available.left(), available.right() - point.x());
+    if (vertical <= horizontal)
+        return point.y() < available.center().y() ? Qt::TopEdge : Qt::BottomEdge;
+    return point.x() < available.center().x() ? Qt::LeftEdge : Qt::RightEdge;
+}
+
+} // namespace
+
+QRect keptWithin(const QRect& available, QRect rect)
+{
+    rect.setSize(rect.size().boundedTo(available.size()));
+    rect.moveLeft(std::clamp(rect.left(), available.left(), available.right() - rect.width() + 1));
+    rect.moveTop(std::clamp(rect.top(), available.top(), available.bottom() - rect.height() + 1));
+    return rect;
+}
+
+QRect placeMenu(const QRect& anchor, const QRect& available, QSize wanted)
+{
+    const QRect item = anchor.isEmpty()
+                           ? QRect(anchor.topLeft(), QSize(1, 1))
+                                 .adjusted(-pointerReach, -pointerReach, pointerReach, pointerReach)
+                           : anchor;
+    QRect room = available;
+    QRect menu({}, wanted);
+    // The menu lies flush with the item and is cut off where the room ends.
+    switch (nearestEdge(item.center(), available)) {
+    case Qt::TopEdge:
+        room.setTop(std::max(room.top(), item.bottom() + 1));
+        menu.moveTopLeft(QPoint(item.left(), room.top()));
+        break;
+    case Qt::BottomEdge:
+        room.setBottom(std::min(room.bottom(), item.top() - 1));
+        menu.moveBottomLeft(QPoint(item.left(), room.bottom()));
+        break;
+    case Qt::LeftEdge:
+        room.setLeft(std::max(room.left(), item.right() + 1));
+        menu.moveTopLeft(QPoint(room.left(), item.top()));
+        break;
+    case Qt::RightEdge:
+        room.setRight(std::min(room.right(), item.left() - 1));
+        menu.moveTopRight(QPoint(room.right(), item.top()));
+        break;
+    }
+    return keptWithin(room, menu);
+}
+
+} // namespace tarnwick

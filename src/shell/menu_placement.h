@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRect>
+
+namespace tarnwick {
+
+/// Where a menu of the wanted size goes, in the coordinates of the screen: next to the status item
+/// at `anchor`, on the side that faces away from the panel, never over the item and never beyond
+/// `available`. The result is smaller than wanted where the room is.
+///
+/// An empty anchor is the pointer's position, for panels that keep the item's place to themselves;
+/// the item is then taken to reach a little way around it.
+[[nodiscard]] QRect placeMenu(const QRect& anchor, const QRect& available, QSize wanted);
+
+/// `rect` moved, and shrunk if it must be, to lie within `available`.
+[[nodiscard]] QRect keptWithin(const QRect& available, QRect rect);
+
+} // namespace tarnwick
