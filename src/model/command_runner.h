@@ -22,7 +22,7 @@ public:
     {
         QString git = QStringLiteral("/usr/bin/git");
         /// Opens a directory in an application, or shows a file in the file manager.
-        QString open;
+        QString open = {};
     };
 
     /// Receives what git printed, untrimmed, and the record on whose behalf it ran.

@@ -26,7 +26,7 @@ public:
 /// What a record works with; both outlive every record.
 struct RepoServices
 {
-    CommandRunner& runner;
+    const CommandRunner& runner;
     BackgroundQueue& queue;
 };
 

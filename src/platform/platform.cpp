@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#include "platform/platform.h"
+
+#include "platform/tray_host.h"
+
+namespace tarnwick {
+
+Platform::Platform() = default;
+Platform::Platform(Platform&&) noexcept = default;
+Platform::~Platform() = default;
+
+} // namespace tarnwick

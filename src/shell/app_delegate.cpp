@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "shell/app_delegate.h"
+
+#include "model/diagnostics.h"
+#include "model/repo_manager.h"
+#include "platform/platform.h"
+#include "shell/application_menu.h"
+#include "shell/status_item.h"
+#include "shell/status_menu.h"
+
+namespace tarnwick {
+
+namespace {
+
+AppDelegate* sharedDelegate = nullptr;
+
+} // namespace
+
+AppDelegate::AppDelegate(Platform& platform, PreferencesStore& store, RepoServices services)
+    : m_platform(platform)
+    , m_store(store)
+    , m_services(services)
+    , m_appMenu(std::make_shared<ApplicationMenu>(store))
+{
+}
+
+AppDelegate::~AppDelegate()
+{
+    m_appMenu->releaseModels();
+    sharedDelegate = nullptr;
+}
+
+AppDelegate* AppDelegate::shared() { return sharedDelegate; }
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    sharedDelegate = this;
+    makeStatusItem();
+    rebuildMenu();
+}
+
+void AppDelegate::menuWillOpen() { m_appMenu->refreshOnOpen(); }
+
+StatusItem& AppDelegate::statusBarItem()
+{
+    if (!m_statusBarItem)
+        makeStatusItem();
+    return *m_statusBarItem;
+}
+
+RepoManager& AppDelegate::repoManager()
+{
+    if (!m_repoManager) {
+        m_repoManager = std::make_unique<RepoManager>(
+            m_store, m_services, []() -> std::shared_ptr<RepoViewModelDelegate> {
+                return shared() ? shared()->m_appMenu : nullptr;
+            });
+    }
+    return *m_repoManager;
+}
+
+void AppDelegate::rebuildMenu()
+{
+    auto menu = m_appMenu->buildMenu(repoManager());
+    connect(menu.get(), &StatusMenu::aboutToShow, this, &AppDelegate::menuWillOpen);
+    std::swap(m_menu, menu);
+    if (menu) {
+        menu->close();
+        // The request may come from within the old menu.
+        menu.release()->deleteLater();
+    }
+}
+
+void AppDelegate::makeStatusItem()
+{
+    m_statusBarItem = std::make_unique<StatusItem>(*m_platform.trayHost);
+    connect(m_statusBarItem.get(), &StatusItem::triggered, this, &AppDelegate::openMenu);
+    connect(m_statusBarItem.get(), &StatusItem::refreshAllRequested, this,
+            [this] { refreshAll(m_appMenu->models()); });
+}
+
+void AppDelegate::openMenu(const QRect& anchor) { m_menu->popUpBeside(anchor); }
+
+void rebuildMenu()
+{
+    if (!AppDelegate::shared())
+        stopProcess();
+    AppDelegate::shared()->rebuildMenu();
+}
+
+} // namespace tarnwick

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/repo_view_model.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace tarnwick {
+
+class ApplicationMenu;
+class PreferencesStore;
+class RepoManager;
+class StatusItem;
+class StatusMenu;
+struct Platform;
+
+/// Owns what the program shows: the status item, the current menu and the repository list.
+/// One for the whole process, on the main thread.
+class AppDelegate : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What it is given outlives it.
+    AppDelegate(Platform& platform, PreferencesStore& store, RepoServices services);
+    ~AppDelegate() override;
+
+    /// The one delegate, from `applicationDidFinishLaunching()` on; nothing before.
+    [[nodiscard]] static AppDelegate* shared();
+
+    void applicationDidFinishLaunching();
+    /// The status menu is about to open.
+    void menuWillOpen();
+
+    /// Made on first use.
+    [[nodiscard]] StatusItem& statusBarItem();
+    [[nodiscard]] ApplicationMenu& appMenu() { return *m_appMenu; }
+    /// Made, and so loaded, on first use. Stops the process before `shared()` is set.
+    [[nodiscard]] RepoManager& repoManager();
+
+    /// Builds a new menu and puts it in place of the current one, which closes.
+    void rebuildMenu();
+
+private:
+    void makeStatusItem();
+    void openMenu(const QRect& anchor);
+
+    Platform& m_platform;
+    PreferencesStore& m_store;
+    const RepoServices m_services;
+
+    const std::shared_ptr<ApplicationMenu> m_appMenu;
+    std::unique_ptr<RepoManager> m_repoManager;
+    std::unique_ptr<StatusItem> m_statusBarItem;
+    std::unique_ptr<StatusMenu> m_menu;
+};
+
+/// Rebuilds the one delegate's menu; stops the process while there is none.
+void rebuildMenu();
+
+} // namespace tarnwick

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/repo_view_model.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace tarnwick {
+
+class PreferencesStore;
+class RepoManager;
+class StatusMenu;
+
+/// Makes the status menu. A menu is built as a whole and never edited: when something structural
+/// changes, a new one replaces it. Main thread only.
+class ApplicationMenu : public QObject, public RepoViewModelDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit ApplicationMenu(PreferencesStore& store);
+
+    /// The records of the menu built last; a refresh works on these, not on the live list.
+    [[nodiscard]] const RepoViewModels& models() const { return m_models; }
+
+    /// Writes the first-run defaults into a fresh store, takes the list's records as they are now
+    /// and makes a row for each.
+    [[nodiscard]] std::unique_ptr<StatusMenu> buildMenu(const RepoManager& repositories);
+
+    /// Called when the menu is about to open: refreshes a moment later if the user wants that, and
+    /// does not keep the menu waiting.
+    void refreshOnOpen();
+    void refreshIfEnabled();
+
+    /// Lets go of the records, which hold this object.
+    void releaseModels() { m_models.clear(); }
+
+private:
+    void addRepositoryItem(const std::shared_ptr<RepoViewModel>& record, StatusMenu& menu) const;
+    void addEmptyStateItem(StatusMenu& menu) const;
+
+    PreferencesStore& m_store;
+    RepoViewModels m_models;
+};
+
+} // namespace tarnwick

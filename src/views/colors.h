@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "views/appearance.h"
+
+#include <QColor>
+#include <QString>
+
+class QPalette;
+
+namespace tarnwick {
+
+/// The sRGB colour of a hexadecimal text: three digits, six, or eight with the opacity first.
+/// Whatever surrounds the letters and digits ("#FFB300") is left out, and reading stops at the
+/// first character that is no hexadecimal digit. Other lengths give a nearly invisible colour.
+[[nodiscard]] QColor colorFromHex(const QString& text);
+
+/// Primary and secondary text, as the desktop's palette has them.
+[[nodiscard]] QColor labelColor(const QPalette& palette);
+[[nodiscard]] QColor secondaryLabelColor(const QPalette& palette);
+
+/// The named colours of the views, each in the shade that reads well on that appearance's
+/// background.
+namespace colors {
+
+[[nodiscard]] QColor white();
+[[nodiscard]] QColor green(Appearance appearance);
+[[nodiscard]] QColor red(Appearance appearance);
+[[nodiscard]] QColor indigo(Appearance appearance);
+[[nodiscard]] QColor purple(Appearance appearance);
+[[nodiscard]] QColor blue(Appearance appearance);
+/// The colour of changes: orange, and an amber on a light background.
+[[nodiscard]] QColor orange(Appearance appearance);
+[[nodiscard]] QColor teal(Appearance appearance);
+[[nodiscard]] QColor yellow(Appearance appearance);
+
+} // namespace colors
+
+} // namespace tarnwick

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/bound_setting.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class QLabel;
+
+namespace tarnwick {
+
+class PreferencesStore;
+class RepoViewModel;
+class Spinner;
+class TextLine;
+
+/// A repository's row in the menu: picture and name, and for a repository its branch and a coloured
+/// summary of its working tree. Follows the record, the two options that concern it and the palette
+/// while it lives. Exactly 340 wide; as high as its text needs, which `sizeHint()` tells.
+class RepoStatusView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    RepoStatusView(std::shared_ptr<RepoViewModel> vm, PreferencesStore& store,
+                   QWidget* parent = nullptr);
+
+    /// All that the row says, as one plain sentence without glyphs.
+    [[nodiscard]] QString text() const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void textChanged();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void layOut();
+    void observe();
+    void setFonts();
+    void render();
+    void renderBranch();
+    void renderStatus();
+    void renderSpinner();
+
+    const std::shared_ptr<RepoViewModel> m_vm;
+    BoundSetting m_onlyIcons;
+    BoundSetting m_showCleanRepoStatus;
+
+    QLabel* m_picture;
+    TextLine* m_name;
+    QLabel* m_branchSymbol;
+    TextLine* m_branch;
+    QLabel* m_cleanSymbol;
+    TextLine* m_clean;
+    TextLine* m_summary;
+    Spinner* m_spinner;
+
+    QWidget* m_branchLine;
+    QWidget* m_cleanLine;
+};
+
+} // namespace tarnwick

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QTextLayout>
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+namespace tarnwick {
+
+struct TextSegment
+{
+    QString text;
+    QColor color;
+
+    bool operator==(const TextSegment&) const = default;
+};
+
+/// One text of differently coloured segments in the widget's font, shown verbatim: nothing in it is
+/// markup. A text too wide for the widget goes on in further lines, broken inside a word where no
+/// space allows otherwise.
+class TextLine : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TextLine(QWidget* parent = nullptr);
+
+    [[nodiscard]] const std::vector<TextSegment>& segments() const { return m_segments; }
+    void setSegments(std::vector<TextSegment> segments);
+    [[nodiscard]] QString text() const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] std::unique_ptr<QTextLayout> layoutForWidth(int width) const;
+
+    std::vector<TextSegment> m_segments;
+};
+
+} // namespace tarnwick

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "e2e/desktop.h"
+
+#include "support/temporary_repository.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QTest>
+
+namespace tarnwick::test {
+
+namespace {
+
+constexpr int patienceMs = 20000;
+
+QByteArray outputOf(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(patienceMs))
+        qWarning() << program << process.errorString();
+    return process.exitCode() == 0 ? process.readAllStandardOutput() : QByteArray();
+}
+
+} // namespace
+
+RunningProgram::RunningProgram(const QJsonObject& preferences)
+{
+    writeFile(m_configHome.filePath(u"tarnwick/preferences.json"_qs),
+              QJsonDocument(preferences).toJson());
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"XDG_CONFIG_HOME"_qs, m_configHome.path());
+    m_process.setProcessEnvironment(environment);
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
+    QVERIFY(m_process.waitForStarted());
+}
+
+RunningProgram::~RunningProgram()
+{
+    m_process.terminate();
+    m_process.waitForFinished(patienceMs);
+}
+
+QStringList RunningProgram::printedLines()
+{
+    m_process.waitForReadyRead(1);
+    m_printed += QString::fromUtf8(m_process.readAllStandardOutput());
+    return m_printed.split(u'\n');
+}
+
+qsizetype RunningProgram::printedCount(const QString& start)
+{
+    return printedLines().filter(QRegularExpression(u'^' + QRegularExpression::escape(start))).size();
+}
+
+QJsonObject RunningProgram::preferences() const
+{
+    QFile file(m_configHome.filePath(u"tarnwick/preferences.json"_qs));
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object()
+                                          : QJsonObject();
+}
+
+QPoint statusItemPosition()
+{
+    const QStringList parts = runScript(u"status_item_position.sh"_qs).simplified().split(u' ');
+    return parts.size() == 2 ? QPoint(parts[0].toInt(), parts[1].toInt()) : QPoint();
+}
+
+QList<Accessible> accessibleTree()
+{
+    const QByteArray printed =
+        outputOf(QStringLiteral(TARNWICK_TESTS "/e2e/accessible_tree.py"), {u"tarnwick"_qs});
+    QList<Accessible> tree;
+    for (const QString& line : QString::fromUtf8(printed).split(u'\n', Qt::SkipEmptyParts)) {
+        const QStringList parts = line.split(u'\t');
+        tree.append({{parts[0].toInt(), parts[1].toInt(), parts[2].toInt(), parts[3].toInt()},
+                     parts[4],
+                     parts.value(5)});
+    }
+    return tree;
+}
+
+QStringList menuRows()
+{
+    QStringList rows;
+    for (const Accessible& item : accessibleTree()) {
+        if (item.role == u"menu item" && !item.name.isEmpty())
+            rows += item.name;
+    }
+    return rows;
+}
+
+Accessible accessibleNamed(const QString& start)
+{
+    for (const Accessible& item : accessibleTree()) {
+        if (item.name.startsWith(start))
+            return item;
+    }
+    return {};
+}
+
+void xdotool(const QStringList& arguments) { outputOf(u"xdotool"_qs, arguments); }
+
+void click(QPoint position, int button)
+{
+    xdotool({u"mousemove"_qs, QString::number(position.x()), QString::number(position.y()),
+             u"click"_qs, QString::number(button)});
+}
+
+void key(const QString& name) { xdotool({u"key"_qs, name}); }
+
+QImage screenshot()
+{
+    return QImage::fromData(outputOf(u"import"_qs, {u"-window"_qs, u"root"_qs, u"png:-"_qs}), "PNG");
+}
+
+QString runScript(const QString& name, const QStringList& arguments)
+{
+    return QString::fromUtf8(
+        outputOf(QStringLiteral(TARNWICK_SCRIPTS "/") + name, arguments));
+}
+
+} // namespace tarnwick::test

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "e2e/desktop.h"
+#include "support/test_registry.h"
+
+#include <QTest>
+
+using namespace tarnwick::test;
+
+/// The race at log-in: the program is up before the panel is.
+class LateHostE2eTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itemAppearsWithTheHost_data();
+    void itemAppearsWithTheHost();
+};
+
+void LateHostE2eTest::itemAppearsWithTheHost_data()
+{
+    QTest::addColumn<QString>("host");
+    QTest::newRow("status notifier host") << u"xfce4-panel"_qs;
+    QTest::newRow("XEmbed host") << u"trayer"_qs;
+}
+
+void LateHostE2eTest::itemAppearsWithTheHost()
+{
+    QFETCH(QString, host);
+    RunningProgram program;
+    QTRY_COMPARE_WITH_TIMEOUT(
+        program.printedCount(u"No status bar found; waiting for one."_qs), 1, 15000);
+    QVERIFY(statusItemPosition().isNull());
+
+    QProcess panel;
+    panel.start(QStringLiteral(TARNWICK_SCRIPTS "/tray_host.sh"), {host});
+    QTRY_VERIFY_WITH_TIMEOUT(!statusItemPosition().isNull(), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        (click(statusItemPosition()), QTest::qWaitFor([] { return !menuRows().isEmpty(); }, 1500)),
+        20000);
+    key(u"Escape"_qs);
+    panel.terminate();
+    panel.waitForFinished();
+}
+
+TARNWICK_TEST(LateHostE2eTest)
+
+#include "late_host_e2e_test.moc"

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+#include "e2e/desktop.h"
+#include "support/temporary_repository.h"
+#include "support/test_registry.h"
+
+#include <QTest>
+
+using namespace tarnwick::test;
+
+namespace {
+
+bool showsColor(const QImage& image, QRgb color)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) == color)
+                return true;
+        }
+    }
+    return false;
+}
+
+constexpr auto statusRun = u"/usr/bin/git -C ";
+
+} // namespace
+
+/// The real program on the real panel that the desktop was started with.
+class MenuE2eTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { key(u"Escape"_qs); }
+
+    void rowsFollowTheList();
+    void emptyListSaysWhatToDo();
+    void refreshesWhenOpenedIfWanted_data();
+    void refreshesWhenOpenedIfWanted();
+    void branchClickLeavesTheMenuOpen();
+    void contextMenuRefreshesAll();
+    void hundredRepositoriesScroll();
+    void followsTheDesktopIntoTheDark();
+
+private:
+    /// Clicks the status item until its menu is there, as it may have only just been placed.
+    static bool openMenu()
+    {
+        return QTest::qWaitFor([] { return !statusItemPosition().isNull(); }, 20000) &&
+               QTest::qWaitFor(
+                   [] {
+                       if (menuRows().isEmpty())
+                           click(statusItemPosition());
+                       return QTest::qWaitFor([] { return !menuRows().isEmpty(); }, 1500);
+                   },
+                   20000);
+    }
+};
+
+void MenuE2eTest::rowsFollowTheList()
+{
+    const TemporaryRepository dirty(u"dirty it's"_qs);
+    dirty.run({u"git checkout -q -b feature/x; touch new; echo x >> a"_qs});
+    const TemporaryRepository clean(u"clean"_qs);
+    RunningProgram program({{u"repos"_qs, QStringList{dirty.dir(), u"/nonexistent/plain"_qs,
+                                                      clean.dir() + u'/'}
+                                              .join(u'\n')}});
+    QVERIFY(openMenu());
+    QTRY_COMPARE_WITH_TIMEOUT(menuRows(),
+                 (QStringList{u"dirty it's, branch feature/x, 1 change, 1 untracked"_qs,
+                              u"plain"_qs, u"clean, branch main, Repo is clean"_qs}), 10000);
+    // Directly below the panel, one row under the other, all of it on the screen.
+    const QRect first = accessibleNamed(u"dirty"_qs).area;
+    const QRect last = accessibleNamed(u"clean"_qs).area;
+    QVERIFY(first.top() > statusItemPosition().y());
+    QVERIFY(first.left() == last.left() && first.bottom() < last.top());
+    QVERIFY(screenshot().rect().contains(first | last));
+    QCOMPARE(program.preferences().value(u"hasWrittenDefaultsOnce"_qs), QJsonValue(true));
+    QCOMPARE(program.printedCount(u"nmot repo"_qs), 1);
+
+    key(u"Escape"_qs);
+    QTRY_VERIFY_WITH_TIMEOUT(menuRows().isEmpty(), 10000);
+    // A double click opens, too.
+    const QPoint item = statusItemPosition();
+    xdotool({u"mousemove"_qs, QString::number(item.x()), QString::number(item.y()), u"click"_qs,
+             u"--repeat"_qs, u"2"_qs, u"--delay"_qs, u"60"_qs, u"1"_qs});
+    QTRY_COMPARE_WITH_TIMEOUT(menuRows().size(), 3, 10000);
+}
+
+void MenuE2eTest::emptyListSaysWhatToDo()
+{
+    const RunningProgram program;
+    QVERIFY(openMenu());
+    QCOMPARE(menuRows(),
+             QStringList{u"Open the settings (the gear) and add some repositories to get started!"_qs});
+}
+
+void MenuE2eTest::refreshesWhenOpenedIfWanted_data()
+{
+    QTest::addColumn<QJsonValue>("refreshOnMenuOpen");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("never touched") << QJsonValue() << u"repo, branch main, Repo is clean"_qs;
+    QTest::newRow("off") << QJsonValue(false) << u"repo, branch main, Repo is clean"_qs;
+    QTest::newRow("on") << QJsonValue(true) << u"repo, branch other, 1 change"_qs;
+}
+
+void MenuE2eTest::refreshesWhenOpenedIfWanted()
+{
+    QFETCH(QJsonValue, refreshOnMenuOpen);
+    QFETCH(QString, expected);
+    const TemporaryRepository repository;
+    QJsonObject preferences{{u"repos"_qs, repository.dir()}};
+    if (!refreshOnMenuOpen.isNull())
+        preferences.insert(u"refreshOnMenuOpen"_qs, refreshOnMenuOpen);
+    RunningProgram program(preferences);
+    QVERIFY(openMenu());
+    QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{u"repo, branch main, Repo is clean"_qs}, 10000);
+    key(u"Escape"_qs);
+    QTRY_VERIFY(menuRows().isEmpty());
+
+    repository.run({u"git checkout -q -b other; echo x >> a"_qs});
+    const qsizetype runsBefore = program.printedCount(statusRun);
+    QVERIFY(openMenu());
+    QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{expected}, 10000);
+    QCOMPARE(program.printedCount(statusRun) - runsBefore,
+             refreshOnMenuOpen.toBool() ? 2 : 0);
+}
+
+void MenuE2eTest::branchClickLeavesTheMenuOpen()
+{
+    const TemporaryRepository repository;
+    RunningProgram program({{u"repos"_qs, repository.dir()}});
+    QVERIFY(openMenu());
+    const QRect row = accessibleNamed(u"repo, branch main"_qs).area;
+    // The second of three lines, behind the symbol.
+    click({row.left() + 50, row.center().y()});
+    QTRY_COMPARE(program.printedCount(u"Open sourcetree?"_qs), 1);
+    click({row.left() + 250, row.center().y()});
+    QCOMPARE(menuRows().size(), 1);
+    QCOMPARE(program.printedCount(u"Open sourcetree?"_qs), 1);
+}
+
+void MenuE2eTest::contextMenuRefreshesAll()
+{
+    const TemporaryRepository repository;
+    RunningProgram program({{u"repos"_qs, repository.dir()}});
+    QTRY_VERIFY_WITH_TIMEOUT(!statusItemPosition().isNull(), 20000);
+    QTRY_COMPARE(program.printedCount(statusRun), 2);
+    // "Refresh all" is the second entry; the menu may take a moment to accept keys.
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+            click(statusItemPosition(), 3);
+            QTest::qWait(500);
+            xdotool({u"key"_qs, u"Down"_qs, u"Down"_qs, u"Return"_qs});
+            return QTest::qWaitFor([&] { return program.printedCount(statusRun) == 4; }, 2000);
+        },
+        15000));
+}
+
+void MenuE2eTest::hundredRepositoriesScroll()
+{
+    const TemporaryRepository repository;
+    QStringList dirs;
+    for (int i = 1; i <= 100; ++i)
+        dirs += u"/nonexistent/folder%1"_qs.arg(i, 3, 10, u'0');
+    dirs.last() = repository.dir();
+    const RunningProgram program({{u"repos"_qs, dirs.join(u'\n')}});
+    QVERIFY(openMenu());
+    const QRect first = accessibleNamed(u"folder001"_qs).area;
+    QVERIFY(first.width() <= 360);
+    QVERIFY(!screenshot().rect().contains(accessibleNamed(u"repo, "_qs).area));
+    xdotool({u"mousemove"_qs, QString::number(first.center().x()), QString::number(first.bottom() + 60),
+             u"click"_qs, u"--repeat"_qs, u"150"_qs, u"--delay"_qs, u"5"_qs, u"5"_qs});
+    QTRY_VERIFY_WITH_TIMEOUT(
+        screenshot().rect().contains(accessibleNamed(u"repo, branch main"_qs).area), 10000);
+    QCOMPARE(accessibleNamed(u"repo, branch main"_qs).area.left(), first.left());
+}
+
+void MenuE2eTest::followsTheDesktopIntoTheDark()
+{
+    const TemporaryRepository repository;
+    const RunningProgram program({{u"repos"_qs, repository.dir()}});
+    QVERIFY(openMenu());
+    QTRY_VERIFY(showsColor(screenshot(), qRgb(0x00, 0x99, 0x00)));
+    runScript(u"desktop_theme.sh"_qs, {u"dark"_qs});
+    QTRY_VERIFY_WITH_TIMEOUT(showsColor(screenshot(), qRgb(0x32, 0xd7, 0x4b)), 10000);
+    runScript(u"desktop_theme.sh"_qs, {u"light"_qs});
+    QTRY_VERIFY_WITH_TIMEOUT(showsColor(screenshot(), qRgb(0x00, 0x99, 0x00)), 10000);
+}
+
+TARNWICK_TEST(MenuE2eTest)
+
+#include "menu_e2e_test.moc"

@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: MIT
+#include "model/background_queue.h"
+#include "model/command_runner.h"
+#include "model/preferences_store.h"
+#include "model/repo_view_model.h"
+#include "support/temporary_repository.h"
+#include "support/test_registry.h"
+#include "views/colors.h"
+#include "views/empty_state_view.h"
+#include "views/repo_status_view.h"
+#include "views/spinner.h"
+#include "views/text_line.h"
+
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace tarnwick;
+using namespace tarnwick::test;
+
+namespace {
+
+/// What a person sees written in the widget, from top to bottom; glyphs are left out.
+QStringList shownTexts(const QWidget& view)
+{
+    QMap<int, QString> texts;
+    for (const auto* line : view.findChildren<TextLine*>()) {
+        if (!line->isVisible())
+            continue;
+        static const QRegularExpression glyphs(u"[^ -~]"_qs);
+        const QString plain = line->text().replace(QChar::Nbsp, u' ').remove(glyphs);
+        texts.insert(line->mapTo(&view, QPoint()).y(), plain.simplified());
+    }
+    return texts.values();
+}
+
+TextLine* lineSaying(const QWidget& view, const QString& text)
+{
+    for (auto* line : view.findChildren<TextLine*>()) {
+        if (line->text() == text)
+            return line;
+    }
+    return nullptr;
+}
+
+bool showsColor(QWidget& view, const QColor& color)
+{
+    const QImage image = view.grab().toImage();
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) == color)
+                return true;
+        }
+    }
+    return false;
+}
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(40, 40, 40));
+    palette.setColor(QPalette::WindowText, Qt::white);
+    return palette;
+}
+
+} // namespace
+
+class RepoStatusViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void followsARealRepository();
+    void plainFolderShowsItsNameOnly();
+    void optionsApplyAtOnce();
+    void paletteAppliesAtOnce();
+    void branchClickSaysOneLine();
+    void longTextsStayInside();
+    void logoReplacesTheFolder();
+    void emptyState();
+
+private:
+    [[nodiscard]] std::unique_ptr<RepoStatusView> shownRow(const QString& dir)
+    {
+        m_record = RepoViewModel::create(dir, nullptr, {m_runner, m_queue});
+        auto row = std::make_unique<RepoStatusView>(m_record, *m_store);
+        row->setPalette(QPalette(QColor(240, 240, 240)));
+        row->show();
+        return row;
+    }
+
+    const CommandRunner m_runner{{}};
+    BackgroundQueue m_queue;
+    QTemporaryDir m_folder;
+    std::unique_ptr<PreferencesStore> m_store;
+    std::shared_ptr<RepoViewModel> m_record;
+};
+
+void RepoStatusViewTest::init()
+{
+    QFile::remove(m_folder.filePath(u"p.json"_qs));
+    m_store = std::make_unique<PreferencesStore>(m_folder.filePath(u"p.json"_qs));
+}
+
+void RepoStatusViewTest::followsARealRepository()
+{
+    const TemporaryRepository repository;
+    const auto row = shownRow(repository.dir());
+    const QSignalSpy texts(row.get(), &RepoStatusView::textChanged);
+    const auto* const spinner = row->findChild<Spinner*>();
+    QCOMPARE(shownTexts(*row), (QStringList{u"repo"_qs, u"?"_qs, u"Repo is clean"_qs}));
+    QList<bool> turning;
+    connect(m_record.get(), &RepoViewModel::isLoadingChanged, row.get(),
+            [&] { turning += spinner->isVisible(); });
+    QTRY_COMPARE(turning, (QList<bool>{true, false}));
+    QTRY_COMPARE(row->text(), u"repo, branch main, Repo is clean"_qs);
+    const int width = row->sizeHint().width();
+
+    repository.run({u"git checkout -q -b feature/x; echo x >> a; echo x >> b; git add b"_qs});
+    refreshAll({m_record});
+    QTRY_COMPARE(shownTexts(*row),
+                 (QStringList{u"repo"_qs, u"feature/x"_qs, u"1 change 1 staged"_qs}));
+    QCOMPARE(row->text(), u"repo, branch feature/x, 1 change, 1 staged"_qs);
+    QVERIFY(!texts.isEmpty());
+    QVERIFY(showsColor(*row, colorFromHex(u"FFB300"_qs)));
+    QVERIFY(showsColor(*row, colors::teal(Appearance::Light)));
+    QVERIFY(showsColor(*row, colors::yellow(Appearance::Light)));
+    QCOMPARE(width, 340);
+    QCOMPARE(row->sizeHint().width(), 340);
+}
+
+void RepoStatusViewTest::plainFolderShowsItsNameOnly()
+{
+    const auto row = shownRow(m_folder.filePath(u"plain"_qs));
+    QCOMPARE(shownTexts(*row), QStringList{u"plain"_qs});
+    QCOMPARE(row->text(), u"plain"_qs);
+}
+
+void RepoStatusViewTest::optionsApplyAtOnce()
+{
+    const TemporaryRepository repository;
+    const auto row = shownRow(repository.dir());
+    QTRY_VERIFY(m_record->gitStatus());
+    const int cleanHeight = row->sizeHint().height();
+    m_store->setBool(false, u"showCleanRepoStatus"_qs);
+    QVERIFY(!shownTexts(*row).contains(u"Repo is clean"_qs));
+    QTRY_VERIFY(row->sizeHint().height() < cleanHeight);
+
+    repository.run({u"touch n"_qs});
+    refreshAll({m_record});
+    QTRY_VERIFY(shownTexts(*row).contains(u"1 untracked"_qs));
+    m_store->setBool(true, u"onyIcons"_qs);
+    QVERIFY(shownTexts(*row).contains(u"1"_qs));
+}
+
+void RepoStatusViewTest::paletteAppliesAtOnce()
+{
+    const TemporaryRepository repository;
+    const auto row = shownRow(repository.dir());
+    QTRY_VERIFY(m_record->gitStatus());
+    QVERIFY(showsColor(*row, colors::green(Appearance::Light)));
+    row->setPalette(darkPalette());
+    QVERIFY(showsColor(*row, colors::green(Appearance::Dark)));
+    QVERIFY(!showsColor(*row, colors::green(Appearance::Light)));
+}
+
+void RepoStatusViewTest::branchClickSaysOneLine()
+{
+    // What the row prints goes to the standard output of a process of its own in the end-to-end
+    // tests; here it matters that the click ends at the branch and one beside it does not.
+    const TemporaryRepository repository;
+    const auto row = shownRow(repository.dir());
+    QTRY_COMPARE(m_record->branchString(), u"main"_qs);
+    struct Counter : QWidget
+    {
+        int presses = 0;
+        void mousePressEvent(QMouseEvent* /*event*/) override { ++presses; }
+    } menu;
+    row->setParent(&menu);
+    menu.show();
+    QTest::mouseClick(lineSaying(*row, u"main"_qs), Qt::LeftButton);
+    QCOMPARE(menu.presses, 0);
+    QTest::mouseClick(row.get(), Qt::LeftButton, {}, {300, 5});
+    QCOMPARE(menu.presses, 1);
+    row->setParent(nullptr);
+}
+
+void RepoStatusViewTest::longTextsStayInside()
+{
+    const TemporaryRepository repository(QString(90, u'n'));
+    repository.run({u"git checkout -q -b feature/"_qs + QString(90, u'b')});
+    const auto row = shownRow(repository.dir());
+    QTRY_VERIFY(m_record->gitStatus() && m_record->branchString());
+    row->resize(row->sizeHint());
+    for (const auto* line : row->findChildren<TextLine*>()) {
+        if (!line->isVisible())
+            continue;
+        const QRect area(line->mapTo(row.get(), QPoint()), line->size());
+        QVERIFY(QRect(20, 10, 300, row->height() - 20).contains(area));
+        QVERIFY(line->heightForWidth(line->width()) <= line->height());
+    }
+}
+
+void RepoStatusViewTest::logoReplacesTheFolder()
+{
+    const TemporaryRepository repository;
+    QImage logo(40, 10, QImage::Format_RGB32);
+    logo.fill(QColor(12, 34, 56));
+    QVERIFY(logo.save(repository.dir() + u"/TarnwickLogo.png"_qs));
+    const auto row = shownRow(repository.dir());
+    const QImage shown = row->grab().toImage();
+    // Stretched to a square of 16 at the leading inset.
+    const TextLine* const name = lineSaying(*row, u"repo"_qs);
+    const int top = name->mapTo(row.get(), name->rect().center()).y() - 7;
+    for (const QPoint corner : {QPoint(20, top), QPoint(35, top + 14)})
+        QCOMPARE(shown.pixelColor(corner), QColor(12, 34, 56));
+    QVERIFY(shown.pixelColor(36, top) != QColor(12, 34, 56));
+}
+
+void RepoStatusViewTest::emptyState()
+{
+    EmptyStateView view;
+    view.resize(view.sizeHint());
+    view.show();
+    QCOMPARE(view.findChild<TextLine*>()->text(),
+             u"Open the settings (\U001008CC) and add some repositories to get started!"_qs);
+    QCOMPARE(view.height(), 140);
+    QVERIFY(view.width() <= 300);
+}
+
+TARNWICK_TEST(RepoStatusViewTest)
+
+#include "repo_status_view_test.moc"
