@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace tarnwick {
 
 namespace {
@@ -59,6 +61,14 @@ HostingView* StatusMenu::hostedView(QAction* action) const
 {
     auto* const row = qobject_cast<HostedRow*>(action);
     return row ? &row->view() : nullptr;
+}
+
+QAction* StatusMenu::actionOf(const HostingView& view) const
+{
+    const QList<QAction*> all = actions();
+    const auto found = std::ranges::find_if(
+        all, [this, &view](QAction* action) { return hostedView(action) == &view; });
+    return found == all.end() ? nullptr : *found;
 }
 
 void StatusMenu::popUpBeside(const QRect& anchor)
@@ -208,9 +218,13 @@ HostedRow* StatusMenu::activeRow() const
 
 StatusMenu* StatusMenu::openSubmenu() const
 {
-    auto* const submenu =
-        activeAction() ? qobject_cast<StatusMenu*>(activeAction()->menu()) : nullptr;
-    return submenu && submenu->isVisible() ? submenu : nullptr;
+    // Not just the active action's: another row may be about to take over.
+    for (const QAction* const action : actions()) {
+        auto* const submenu = qobject_cast<StatusMenu*>(action->menu());
+        if (submenu && submenu->isVisible())
+            return submenu;
+    }
+    return nullptr;
 }
 
 void StatusMenu::closeSubmenu()

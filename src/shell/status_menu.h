@@ -31,6 +31,9 @@ public:
     QAction* addHostedRow(HostingView* view);
     /// The view that shows an action of this menu; none for a plain action.
     [[nodiscard]] HostingView* hostedView(QAction* action) const;
+    [[nodiscard]] QAction* actionOf(const HostingView& view) const;
+    /// The open menu that this one is a submenu of.
+    [[nodiscard]] StatusMenu* parentMenu() const;
 
     /// Answers a click on the status item at `anchor`, or at the pointer if the item's place is not
     /// known and the anchor's size is null: opens the menu, or closes it if it is open. The further
@@ -61,8 +64,6 @@ private:
     [[nodiscard]] HostedRow* activeRow() const;
     [[nodiscard]] StatusMenu* openSubmenu() const;
     void closeSubmenu();
-    /// The open menu that this one is a submenu of.
-    [[nodiscard]] StatusMenu* parentMenu() const;
     [[nodiscard]] StatusMenu* topMenu();
     /// The nearest open menu above this one that reaches under a point of the screen.
     [[nodiscard]] StatusMenu* ancestorAt(QPoint global) const;
@@ -75,7 +76,7 @@ private:
 
     [[nodiscard]] bool isOnTheWayToSubmenu(QPoint position);
     void followPointer();
-    void takePress(QMouseEvent& press, StatusMenu& target) const;
+    static void handPressTo(StatusMenu& ancestor, const QMouseEvent& press);
     [[nodiscard]] bool answersPressOutside(QPoint global);
     void step(bool forward, bool throughRows);
     void enter();

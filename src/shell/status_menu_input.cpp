@@ -40,7 +40,7 @@ bool StatusMenu::isOnTheWayToSubmenu(QPoint position)
     const StatusMenu* const submenu = openSubmenu();
     if (!submenu || !rect().contains(position))
         return false;
-    if (actionGeometry(activeAction()).contains(position)) {
+    if (actionGeometry(submenu->menuAction()).contains(position)) {
         m_lastOnRow = position;
         return false;
     }
@@ -70,19 +70,19 @@ void StatusMenu::mousePressEvent(QMouseEvent* event)
     }
     StatusMenu* const ancestor = ancestorAt(global);
     if (ancestor && ancestor->rowAt(ancestor->mapFromGlobal(global)))
-        takePress(*event, *ancestor);
+        handPressTo(*ancestor, *event);
     else if (ancestor || !topMenu()->answersPressOutside(global))
         QMenu::mousePressEvent(event);
 }
 
-void StatusMenu::takePress(QMouseEvent& press, StatusMenu& target) const
+void StatusMenu::handPressTo(StatusMenu& ancestor, const QMouseEvent& press)
 {
-    const QPoint position = target.mapFromGlobal(press.globalPosition().toPoint());
-    const HostedRow& row = *target.rowAt(position);
+    const QPoint position = ancestor.mapFromGlobal(press.globalPosition().toPoint());
+    const HostedRow& row = *ancestor.rowAt(position);
     // The widget owns it.
-    new HandedPress(*target.childAt(position), press);
+    new HandedPress(*ancestor.childAt(position), press);
     if (!row.isHeld())
-        target.closeSubmenu();
+        ancestor.closeSubmenu();
 }
 
 bool StatusMenu::answersPressOutside(QPoint global)
