@@ -17,12 +17,11 @@ HandedPress::HandedPress(QWidget& target, const QMouseEvent& press)
 
 bool HandedPress::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::MouseButtonRelease || !watched->isWidgetType())
+    // On its way into the window: none of our widgets may be meant to get it.
+    if (event->type() != QEvent::MouseButtonRelease || !watched->isWindowType())
         return false;
     qApp->removeEventFilter(this);
     deleteLater();
-    if (watched == &m_target)
-        return false;
     give(*static_cast<QMouseEvent*>(event));
     return true;
 }

@@ -10,11 +10,15 @@ namespace {
 /// Half the side of a usual status item.
 constexpr int pointerReach = 12;
 
+/// In a corner of a screen whose panels take no space, an item counts as one of the upper or lower
+/// panel: those are the usual ones.
+constexpr int corner = 48;
+
 Qt::Edge nearestEdge(const QPoint& point, const QRect& available)
 {
     const int vertical = std::min(point.y() - available.top(), available.bottom() - point.y());
     const int horizontal = std::min(point.x() - available.left(), available.right() - point.x());
-    if (vertical <= horizontal)
+    if (vertical <= horizontal || (horizontal >= 0 && vertical < corner))
         return point.y() < available.center().y() ? Qt::TopEdge : Qt::BottomEdge;
     return point.x() < available.center().x() ? Qt::LeftEdge : Qt::RightEdge;
 }

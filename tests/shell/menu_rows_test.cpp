@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: MIT
+#include "shell/hosting_view.h"
+#include "shell/key_window.h"
+#include "shell/status_menu.h"
+#include "shell/status_menu_accessible.h"
+#include "support/test_registry.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+using namespace tarnwick;
+
+namespace {
+
+struct CountingWindow : QWidget, KeyWindow
+{
+    void becomeKeyWindow() override { ++requests; }
+    int requests = 0;
+};
+
+struct Row
+{
+    QLabel* label;
+    QPushButton* button;
+    HostingView* view;
+    StatusMenu* panel;
+    QPushButton* first;
+    QPushButton* last;
+};
+
+QPushButton* tabButton(const QString& text)
+{
+    auto* const button = new QPushButton(text);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+HostingView* host(const QList<QWidget*>& widgets, int width)
+{
+    auto* const content = new QWidget;
+    content->setFixedWidth(width);
+    auto* const layout = new QVBoxLayout(content);
+    for (QWidget* const widget : widgets)
+        layout->addWidget(widget);
+    return new HostingView(content);
+}
+
+/// A row of a label and a button, with a panel of two buttons as its submenu.
+Row addRow(StatusMenu& menu)
+{
+    Row row{.label = new QLabel(QStringLiteral("main")),
+            .button = tabButton(QStringLiteral("Refresh")),
+            .view = nullptr,
+            .panel = new StatusMenu(&menu),
+            .first = tabButton(QStringLiteral("Open")),
+            .last = tabButton(QStringLiteral("Push"))};
+    row.view = host({row.label, row.button}, 340);
+    row.view->setText(QStringLiteral("R&D, main"));
+    row.panel->addHostedRow(host({row.first, row.last}, 300));
+    menu.addHostedRow(row.view)->setMenu(row.panel);
+    menu.addSeparator();
+    return row;
+}
+
+// Pointer events go in where the system's do, so that popups get in each other's way.
+void click(const StatusMenu& under, QPoint global)
+{
+    QTest::mouseClick(under.windowHandle(), Qt::LeftButton, {}, under.mapFromGlobal(global));
+}
+QPoint middle(const QWidget* widget)
+{
+    return widget->mapToGlobal(widget->rect().center());
+}
+QPoint blankOf(const Row& row)
+{
+    return row.view->mapToGlobal(QPoint(3, 3));
+}
+
+} // namespace
+
+class MenuRowsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_menu.reset(); }
+    void keysAreAskedForOncePerShowing();
+    void pressReachesTheRowBehindASubmenu();
+    void blankAreaOpensAndNeverCloses();
+    void openMenuFollowsItsRows();
+    void manyRowsMakeOneColumn();
+    void keysReachEverything();
+    void refreshPaintsOneRow();
+    void assistiveTechnologySeesTheRows();
+
+private:
+    void open(int rows);
+
+    std::unique_ptr<StatusMenu> m_menu;
+    QList<Row> m_rows;
+};
+
+void MenuRowsTest::init()
+{
+    m_menu = std::make_unique<StatusMenu>();
+    m_rows.clear();
+}
+
+void MenuRowsTest::open(int rows)
+{
+    for (int i = 0; i < rows; ++i)
+        m_rows.append(addRow(*m_menu));
+    m_menu->popUpBeside(QRect(600, 0, 24, 24));
+    QVERIFY(QTest::qWaitForWindowExposed(m_menu.get()));
+}
+
+void MenuRowsTest::keysAreAskedForOncePerShowing()
+{
+    CountingWindow window;
+    auto* const view = new HostingView(new QLabel(QStringLiteral("text")), &window);
+    QCOMPARE(window.requests, 0);
+    for (const int shown : {1, 2}) {
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(window.requests, shown);
+        window.hide();
+        QCOMPARE(window.requests, shown);
+    }
+    QCOMPARE(view->minimumSize(), QSize(10, 10));
+}
+
+void MenuRowsTest::pressReachesTheRowBehindASubmenu()
+{
+    open(3);
+    m_menu->setActiveAction(m_menu->actionOf(*m_rows[1].view));
+    QTRY_VERIFY(m_rows[1].panel->isVisible());
+    QSignalSpy clicked(m_rows[0].button, &QPushButton::clicked);
+    click(*m_menu, middle(m_rows[0].button));
+    QCOMPARE(clicked.size(), 1);
+    QVERIFY(!m_rows[1].panel->isVisible());
+    QVERIFY(m_menu->isVisible());
+}
+
+void MenuRowsTest::blankAreaOpensAndNeverCloses()
+{
+    open(3);
+    click(*m_menu, blankOf(m_rows[0]));
+    QVERIFY(m_rows[0].panel->isVisible());
+    click(*m_rows[0].panel, m_rows[0].panel->mapToGlobal(QPoint(3, 3)));
+    QVERIFY(m_rows[0].panel->isVisible());
+    QSignalSpy hidden(m_rows[0].panel, &QMenu::aboutToHide);
+    click(*m_menu, blankOf(m_rows[0]));
+    QCOMPARE(hidden.size(), 0);
+    click(*m_menu, blankOf(m_rows[2]));
+    QVERIFY(m_rows[2].panel->isVisible());
+    QVERIFY(!m_rows[0].panel->isVisible());
+}
+
+void MenuRowsTest::openMenuFollowsItsRows()
+{
+    open(3);
+    const QRect before = m_menu->geometry();
+    m_rows[0].label->setText(QStringLiteral("one\ntwo\nthree"));
+    QTRY_VERIFY(m_menu->height() > before.height());
+    QCOMPARE(m_menu->pos(), before.topLeft());
+    QVERIFY(m_rows[1].view->y() > m_rows[0].view->geometry().bottom());
+    m_rows[0].label->setText(QStringLiteral("one"));
+    QTRY_COMPARE(m_menu->geometry(), before);
+}
+
+void MenuRowsTest::manyRowsMakeOneColumn()
+{
+    open(100);
+    const QRect screen = m_menu->screen()->availableGeometry();
+    QVERIFY(screen.contains(m_menu->geometry()));
+    for (const Row& row : m_rows)
+        QCOMPARE(row.view->x(), m_rows[0].view->x());
+
+    const auto turnWheel = [this](int notches) {
+        const QPointF at(100, 100);
+        QWheelEvent wheel(at, m_menu->mapToGlobal(at), {}, QPoint(0, notches * 120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&wheel); // or it would not reach the menu through a row
+        qApp->notify(m_menu->windowHandle(), &wheel);
+    };
+    turnWheel(-10);
+    const int y = m_rows[20].view->y();
+    QVERIFY(m_rows[0].view->geometry().bottom() < 0);
+    m_rows[90].label->setText(QStringLiteral("one\ntwo\nthree"));
+    QTRY_VERIFY(m_rows[90].view->height() > m_rows[20].view->height());
+    QCOMPARE(m_rows[20].view->y(), y);
+
+    turnWheel(-10000);
+    QVERIFY(m_menu->rect().contains(m_rows[99].view->geometry()));
+    click(*m_menu, blankOf(m_rows[99]));
+    QVERIFY(screen.contains(m_rows[99].panel->geometry()));
+    m_rows[99].panel->close();
+    QTest::keyClick(m_menu.get(), Qt::Key_Home);
+    QVERIFY(m_menu->rect().contains(m_rows[0].view->geometry()));
+}
+
+void MenuRowsTest::keysReachEverything()
+{
+    open(3);
+    const auto activeView = [this] { return m_menu->hostedView(m_menu->activeAction()); };
+    const auto type = [](Qt::Key key) {
+        QWidget* const popup = QApplication::activePopupWidget();
+        QTest::keyClick(popup->focusWidget() ? popup->focusWidget() : popup, key);
+    };
+    type(Qt::Key_Down);
+    type(Qt::Key_Down);
+    QCOMPARE(activeView(), m_rows[1].view);
+    type(Qt::Key_Right);
+    QVERIFY(m_rows[1].panel->isVisible());
+    QCOMPARE(m_rows[1].panel->focusWidget(), m_rows[1].first);
+    type(Qt::Key_Down);
+    QCOMPARE(m_rows[1].panel->focusWidget(), m_rows[1].last);
+    QSignalSpy clicked(m_rows[1].last, &QPushButton::clicked);
+    type(Qt::Key_Return);
+    type(Qt::Key_Space);
+    QCOMPARE(clicked.size(), 2);
+    type(Qt::Key_Left);
+    QVERIFY(!m_rows[1].panel->isVisible());
+    QCOMPARE(activeView(), m_rows[1].view);
+    type(Qt::Key_Tab);
+    QCOMPARE(m_menu->focusWidget(), m_rows[1].button);
+    type(Qt::Key_Escape);
+    QVERIFY(!m_menu->isVisible());
+}
+
+void MenuRowsTest::refreshPaintsOneRow()
+{
+    struct PaintWatch : QObject
+    {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            if (event->type() == QEvent::Paint)
+                painted += static_cast<QPaintEvent*>(event)->region();
+            return false;
+        }
+        QRegion painted;
+    } watch;
+    open(3);
+    QTest::qWait(0);
+    m_menu->installEventFilter(&watch);
+    m_rows[1].view->setText(QStringLiteral("R&D, work"));
+    m_rows[1].label->setText(QStringLiteral("work"));
+    QTRY_VERIFY(!watch.painted.isEmpty());
+    QVERIFY(m_rows[1].view->geometry().contains(watch.painted.boundingRect()));
+    QCOMPARE(m_menu->actionOf(*m_rows[1].view)->text(), QStringLiteral("R&&D, work"));
+}
+
+void MenuRowsTest::assistiveTechnologySeesTheRows()
+{
+    installMenuAccessibility();
+    open(2);
+    m_menu->addAction(QStringLiteral("Quit"));
+    QAccessibleInterface* const menu = QAccessible::queryAccessibleInterface(m_menu.get());
+    QCOMPARE(menu->childCount(), 5);
+    QAccessibleInterface* const row = menu->child(2);
+    QCOMPARE(row->text(QAccessible::Name), QStringLiteral("R&D, main"));
+    QCOMPARE(row->role(), QAccessible::MenuItem);
+    QCOMPARE(menu->indexOfChild(row), 2);
+    QCOMPARE(row->parent(), menu);
+    QAccessibleInterface* const button = row->child(0)->child(1);
+    QCOMPARE(button->text(QAccessible::Name), QStringLiteral("Refresh"));
+    QCOMPARE(row->child(1)->object(), m_rows[1].panel);
+    QCOMPARE(row->child(1)->parent(), row);
+    QCOMPARE(menu->child(4)->text(QAccessible::Name), QStringLiteral("Quit"));
+
+    row->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    QVERIFY(m_rows[1].panel->isVisible());
+}
+
+TARNWICK_TEST(MenuRowsTest)
+
+#include "menu_rows_test.moc"
