@@ -5,6 +5,7 @@
 #include "platform/platform.h"
 #include "platform/tray_host.h"
 #include "shell/app_delegate.h"
+#include "shell/status_menu_accessible.h"
 
 #include <QApplication>
 
@@ -18,6 +19,8 @@ int main(int argc, char* argv[])
     QApplication::setDesktopFileName(QStringLiteral("org.tarnwick.Tarnwick"));
     // The program lives in the status bar: closing a window is never the end of it.
     QApplication::setQuitOnLastWindowClosed(false);
+
+    installMenuAccessibility();
 
     Platform platform = systemPlatform();
     PreferencesStore store(PreferencesStore::defaultFilePath());

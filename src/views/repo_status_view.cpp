@@ -43,12 +43,13 @@ void setSymbol(QLabel& label, const QString& symbol, const QColor& color)
 }
 
 /// A symbol in a cell of the picture's width, so that the texts of all lines start at one edge.
-QLabel* newSymbolCell(QWidget* parent)
+QLabel* newSymbolCell(const QString& accessibleName, QWidget* parent)
 {
     auto* const label = new QLabel(parent);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     label->setFixedWidth(pictureSize);
+    label->setAccessibleName(accessibleName);
     return label;
 }
 
@@ -72,11 +73,11 @@ RepoStatusView::RepoStatusView(std::shared_ptr<RepoViewModel> vm, PreferencesSto
     , m_vm(std::move(vm))
     , m_onlyIcons(store, preferences::onlyIcons)
     , m_showCleanRepoStatus(store, preferences::showCleanRepoStatus)
-    , m_picture(newSymbolCell(this))
+    , m_picture(newSymbolCell(tr("Repository"), this))
     , m_name(new TextLine(this))
-    , m_branchSymbol(newSymbolCell(this))
+    , m_branchSymbol(newSymbolCell(tr("Branch"), this))
     , m_branch(new TextLine(this))
-    , m_cleanSymbol(newSymbolCell(this))
+    , m_cleanSymbol(newSymbolCell(tr("Clean"), this))
     , m_clean(new TextLine(this))
     , m_summary(new TextLine(this))
     , m_spinner(new Spinner(this))

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -44,6 +45,8 @@ void TextLine::setSegments(std::vector<TextSegment> segments)
     if (segments == m_segments)
         return;
     m_segments = std::move(segments);
+    static const QRegularExpression glyphs(QStringLiteral("\\p{Co}"));
+    setAccessibleName(text().remove(glyphs).simplified());
     updateGeometry();
     update();
 }

@@ -21,7 +21,7 @@ struct TextSegment
 
 /// One text of differently coloured segments in the widget's font, shown verbatim: nothing in it is
 /// markup. A text too wide for the widget goes on in further lines, broken inside a word where no
-/// space allows otherwise.
+/// space allows otherwise. Its accessible name is the text without the glyphs.
 class TextLine : public QWidget
 {
     Q_OBJECT

@@ -85,7 +85,7 @@ QStringList menuRows()
 {
     QStringList rows;
     for (const Accessible& item : accessibleTree()) {
-        if (item.role == u"menu item" && !item.name.isEmpty())
+        if ((item.role == u"menu item" || item.role == u"panel") && !item.name.isEmpty())
             rows += item.name;
     }
     return rows;

@@ -20,7 +20,7 @@ bool showsColor(const QImage& image, QRgb color)
     return false;
 }
 
-constexpr auto statusRun = u"/usr/bin/git -C ";
+const QString statusRun = u"/usr/bin/git -C "_qs;
 
 } // namespace
 
@@ -161,7 +161,7 @@ void MenuE2eTest::hundredRepositoriesScroll()
     const TemporaryRepository repository;
     QStringList dirs;
     for (int i = 1; i <= 100; ++i)
-        dirs += u"/nonexistent/folder%1"_qs.arg(i, 3, 10, u'0');
+        dirs += u"/nonexistent/folder%1"_qs.arg(i, 3, 10, QChar(u'0'));
     dirs.last() = repository.dir();
     const RunningProgram program({{u"repos"_qs, dirs.join(u'\n')}});
     QVERIFY(openMenu());

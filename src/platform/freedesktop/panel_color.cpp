@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "platform/freedesktop/panel_color.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPixmap>
+#include <QRegion>
+#include <QScreen>
+
+#include <algorithm>
+#include <vector>
+
+namespace tarnwick {
+
+namespace {
+
+bool screenCanBeRead()
+{
+    // Under a Wayland compositor the X server has no picture of the panel.
+    return QGuiApplication::platformName() == u"xcb" &&
+           qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+/// What windows leave free. Where a bar and a dock both do, status items are in the upper one.
+QRect panelStrip()
+{
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRegion strips = QRegion(screen->geometry()) - screen->availableGeometry();
+        if (!strips.isEmpty())
+            return *strips.begin();
+    }
+    return {};
+}
+
+QImage picture(const QRect& area)
+{
+    QScreen* screen = QGuiApplication::screenAt(area.center());
+    if (!screen)
+        return {};
+    const QRect part = area.translated(-screen->geometry().topLeft());
+    return screen->grabWindow(0, part.x(), part.y(), part.width(), part.height())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+/// The pixel of median brightness: icons and letters cover less than half of a panel.
+std::optional<QColor> median(const QImage& image)
+{
+    std::vector<QRgb> pixels;
+    pixels.reserve(static_cast<std::size_t>(image.width()) *
+                   static_cast<std::size_t>(image.height()));
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            pixels.push_back(image.pixel(x, y));
+    if (pixels.empty())
+        return std::nullopt;
+    const auto middle = pixels.begin() + image.width() * image.height() / 2;
+    std::ranges::nth_element(pixels, middle, {}, [](QRgb pixel) { return qGray(pixel); });
+    return QColor(*middle);
+}
+
+bool isGnome()
+{
+    return qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(u"GNOME");
+}
+
+} // namespace
+
+std::optional<QColor> panelColor(const QRect& item)
+{
+    if (screenCanBeRead()) {
+        const QRect area = item.isEmpty() ? panelStrip() : item;
+        if (const auto seen = median(picture(area)))
+            return seen;
+    }
+    if (isGnome())
+        return Qt::black; // its bar is dark whatever the theme
+    return std::nullopt;
+}
+
+} // namespace tarnwick

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "platform/freedesktop/status_notifier_watcher.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+
+namespace tarnwick {
+
+namespace {
+
+const QString service = QStringLiteral("org.kde.StatusNotifierWatcher");
+const QString path = QStringLiteral("/StatusNotifierWatcher");
+
+} // namespace
+
+StatusNotifierWatcher::StatusNotifierWatcher(QObject* parent)
+    : QObject(parent)
+    , m_owner(service, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForOwnerChange)
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    connect(&m_owner, &QDBusServiceWatcher::serviceOwnerChanged, this, &StatusNotifierWatcher::ask);
+    for (const QString& change : {QStringLiteral("StatusNotifierHostRegistered"),
+                                  QStringLiteral("StatusNotifierHostUnregistered")})
+        bus.connect(service, path, service, change, this, SLOT(ask()));
+    ask();
+}
+
+void StatusNotifierWatcher::ask()
+{
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    question << service << QStringLiteral("IsStatusNotifierHostRegistered");
+    question.setAutoStartService(false);
+
+    auto* call =
+        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
+        call->deleteLater();
+        const QDBusPendingReply<QDBusVariant> reply = *call;
+        if (reply.isError())
+            setState(State::NoWatcher);
+        else
+            setState(reply.value().variant().toBool() ? State::HostRegistered : State::NoHost);
+    });
+}
+
+void StatusNotifierWatcher::setState(State state)
+{
+    if (m_state == state)
+        return;
+    m_state = state;
+    Q_EMIT stateChanged();
+}
+
+} // namespace tarnwick

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "platform/freedesktop/tray_host.h"
+
+#include "platform/freedesktop/panel_color.h"
+
+#include <chrono>
+
+namespace tarnwick {
+
+using namespace std::chrono_literals;
+
+FreedesktopTrayHost::FreedesktopTrayHost(QObject* parent)
+    : TrayHost(parent)
+{
+    m_trayAlone.setSingleShot(true);
+    m_trayAlone.setInterval(1s);
+    connect(&m_trayAlone, &QTimer::timeout, this, [this] {
+        if (m_tray.isPresent())
+            settle();
+    });
+    connect(&m_notifier, &StatusNotifierWatcher::stateChanged, this,
+            &FreedesktopTrayHost::lookAgain);
+    connect(&m_tray, &X11Tray::appeared, this, &FreedesktopTrayHost::lookAgain);
+}
+
+void FreedesktopTrayHost::lookAgain()
+{
+    switch (m_notifier.state()) {
+    case StatusNotifierWatcher::State::Unknown:
+        return; // the answer is on its way
+    case StatusNotifierWatcher::State::HostRegistered:
+        return settle();
+    case StatusNotifierWatcher::State::NoHost:
+    case StatusNotifierWatcher::State::NoWatcher:
+        if (m_tray.isPresent())
+            m_trayAlone.start();
+    }
+}
+
+void FreedesktopTrayHost::settle()
+{
+    m_trayAlone.stop();
+    m_available = true;
+    Q_EMIT appeared();
+}
+
+std::optional<QColor> FreedesktopTrayHost::panelColor(const QRect& item) const
+{
+    return tarnwick::panelColor(item);
+}
+
+} // namespace tarnwick

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/freedesktop/status_notifier_watcher.h"
+#include "platform/freedesktop/x11_tray.h"
+#include "platform/tray_host.h"
+
+#include <QTimer>
+
+namespace tarnwick {
+
+/// A status notifier host on the session bus or, on X11 only, a system tray.
+///
+/// Where both exist Qt takes the status notifier host if it is registered when Qt first asks, and
+/// the tray otherwise, for good. A panel that offers both opens them one after the other, so a
+/// tray alone is given a moment to be joined by a host before it counts.
+class FreedesktopTrayHost : public TrayHost
+{
+    Q_OBJECT
+
+public:
+    explicit FreedesktopTrayHost(QObject* parent = nullptr);
+
+    [[nodiscard]] bool available() const override { return m_available; }
+    [[nodiscard]] std::optional<QColor> panelColor(const QRect& item) const override;
+
+private:
+    void lookAgain();
+    void settle();
+
+    StatusNotifierWatcher m_notifier;
+    X11Tray m_tray;
+    QTimer m_trayAlone;
+    bool m_available = false;
+};
+
+} // namespace tarnwick

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QRect>
+
+#include <optional>
+
+namespace tarnwick {
+
+/// Knows when the desktop has a place for a status item.
+///
+/// Qt looks for such a place once per process and never again, so nobody may make a QSystemTrayIcon
+/// or ask QSystemTrayIcon::isSystemTrayAvailable() before available() is true. From then on it
+/// stays true: when the place goes and comes back, the item returns by itself. A desktop that never
+/// offers one is no error; available() then stays false. Main thread only.
+class TrayHost : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    [[nodiscard]] virtual bool available() const = 0;
+
+    /// The colour that the status item is seen against; nothing where the desktop does not tell.
+    /// `item` is where the item is on the screen, empty when that is not known.
+    [[nodiscard]] virtual std::optional<QColor> panelColor(const QRect& item) const = 0;
+
+Q_SIGNALS:
+    /// A place has come up: the first, or another after the panel started anew. Never emitted from
+    /// within the constructor.
+    void appeared();
+};
+
+} // namespace tarnwick

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QMenu>
+#include <QObject>
+#include <QSystemTrayIcon>
+#include <QTimer>
+
+#include <memory>
+
+namespace tarnwick {
+
+class TrayHost;
+
+/// The program's one item in the status bar: a glyph in a colour that stands out there.
+///
+/// It is placed once the host, which has to outlive it, has room for it, and stays for good,
+/// through restarts of the panel. Until then it waits, and says so on standard output when that
+/// takes long.
+class StatusItem : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit StatusItem(TrayHost& host, QObject* parent = nullptr);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// The user asked for the repositories. `anchor` is where the item is on the screen or, on
+    /// panels that do not tell, an empty rectangle at the pointer. A double click asks twice.
+    void triggered(const QRect& anchor);
+    void refreshAllRequested();
+
+private:
+    void fillContextMenu();
+    void place();
+    void matchPanel();
+    QRect anchor() const;
+
+    TrayHost& m_host;
+    QMenu m_contextMenu;
+    std::unique_ptr<QSystemTrayIcon> m_icon;
+    QTimer m_panelSettled;
+    QColor m_ink;
+};
+
+} // namespace tarnwick

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "views/symbols.h"
+
+#include <QFontDatabase>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace tarnwick {
+
+namespace {
+
+QString loadSymbolFont()
+{
+    const auto data = QByteArray::fromRawData(
+        reinterpret_cast<const char*>(symbolFontData.data()), symbolFontSize);
+    const int font = QFontDatabase::addApplicationFontFromData(data);
+    return QFontDatabase::applicationFontFamilies(font).value(0);
+}
+
+} // namespace
+
+QString symbolFontFamily()
+{
+    static const QString family = loadSymbolFont();
+    return family;
+}
+
+QFont withSymbols(const QFont& interfaceFont)
+{
+    // The symbols stand second: were they first, letters would fall back to any other font.
+    QStringList families = interfaceFont.families();
+    if (!families.contains(symbolFontFamily()))
+        families.append(symbolFontFamily());
+    QFont font = interfaceFont;
+    font.setFamilies(families);
+    return font;
+}
+
+QString glyphText(char32_t codePoint) { return QString::fromUcs4(&codePoint, 1); }
+
+QString symbolNamed(QStringView name)
+{
+    const auto* const symbol =
+        std::ranges::find_if(namedSymbols, [name](const NamedSymbol& s) { return name == s.name; });
+    return symbol == namedSymbols.end() ? QString() : glyphText(symbol->codePoint);
+}
+
+} // namespace tarnwick

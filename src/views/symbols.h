@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "symbol_table.h"
+
+#include <QFont>
+#include <QString>
+
+/// The symbols of the interface are glyphs of a font of our own, so that they take the colour and
+/// the size of the text they stand in. Main thread only, after the application object is made.
+namespace tarnwick {
+
+/// Loads the font on first use.
+[[nodiscard]] QString symbolFontFamily();
+
+/// The same font, able to show symbols among its letters. A style sheet that sets a font family
+/// undoes this.
+[[nodiscard]] QFont withSymbols(const QFont& interfaceFont);
+
+/// One glyph as text. The code points that texts contain are in the namespace `glyph`.
+[[nodiscard]] QString glyphText(char32_t codePoint);
+
+/// The named symbol as text; empty for the empty or an unknown name.
+[[nodiscard]] QString symbolNamed(QStringView name);
+
+} // namespace tarnwick
