@@ -1,0 +1,123 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Runs a command in a private X desktop with a tray and returns the command's exit status:
+#
+#   virtual_desktop.sh [--host xfce4-panel|trayer|none] [--size 1280x800] [--dark] [--scale N]
+#                      -- COMMAND...
+#
+# The command sees its own display, session bus, accessibility bus, HOME and XDG folders, and
+# nothing of the caller's desktop. It starts once the tray host takes icons, not earlier: Qt picks
+# its tray protocol when the first icon is made. --size counts logical pixels: with --scale 2 the
+# screen has twice as many each way. Theme, font and scale are given by XSettings, see
+# desktop_theme.sh.
+set -euo pipefail
+scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+
+usage() { sed -n '5,6s/^# *//p' "${BASH_SOURCE[0]}" >&2; exit 64; }
+
+host=xfce4-panel size=1280x800 theme=light scale=1
+while (($#)); do
+    case $1 in
+    --host) host=${2-}; shift 2 || usage ;;
+    --size) size=${2-}; shift 2 || usage ;;
+    --scale) scale=${2-}; shift 2 || usage ;;
+    --dark) theme=dark; shift ;;
+    --) shift; break ;;
+    *) usage ;;
+    esac
+done
+[[ $host =~ ^(xfce4-panel|trayer|none)$ && $size =~ ^[0-9]+x[0-9]+$ && $scale =~ ^[1-4]$ ]] || usage
+(($#)) || usage
+
+for program in Xvfb dbus-daemon gdbus openbox xsettingsd hsetroot python3; do
+    command -v "$program" >/dev/null && continue
+    echo "virtual_desktop.sh: $program is missing; run $scripts/install_packages.sh desktop" >&2
+    exit 69
+done
+
+home=$(mktemp -d "${TMPDIR:-/tmp}/tarnwick-desktop.XXXXXX")
+logs=$home/logs
+pids=()
+
+stop_everything() {
+    trap - EXIT
+    local pid
+    for ((pid = ${#pids[@]} - 1; pid >= 0; pid--)); do
+        kill "${pids[pid]}" 2>/dev/null || true
+        wait "${pids[pid]}" 2>/dev/null || true
+    done
+    # Services the bus started end by themselves when it has gone, some while writing a last file.
+    rm -rf "$home" 2>/dev/null || { sleep 1; rm -rf "$home"; }
+}
+trap stop_everything EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM HUP
+
+# Starts a process that ends with this script, even when the script is killed outright.
+start() {
+    setpriv --pdeathsig TERM -- "$@" >>"$logs/$(basename "$1").log" 2>&1 &
+    pids+=($!)
+}
+
+# Starts a process that writes one line to descriptor 3, and puts the line into $answer.
+start_and_read() {
+    mkfifo "$home/answer"
+    exec 3<>"$home/answer"
+    rm "$home/answer"
+    start "$@"
+    read -r -t 30 answer <&3 || give_up "$1 did not start"
+    exec 3>&-
+}
+
+give_up() {
+    echo "virtual_desktop.sh: $1" >&2
+    tail -n 20 "$logs"/*.log >&2
+    exit 70
+}
+
+enter_private_environment() {
+    local name
+    for name in $(compgen -e); do
+        case $name in
+        XDG_* | QT_* | GTK_* | GDK_* | GIT_* | DBUS_* | DISPLAY | WAYLAND_* | XAUTHORITY) unset "$name" ;;
+        SESSION_MANAGER | DESKTOP_SESSION | AT_SPI_* | NO_AT_BRIDGE | LC_* | LANGUAGE) unset "$name" ;;
+        esac
+    done
+    export HOME=$home LANG=C.UTF-8 GIT_CONFIG_NOSYSTEM=1 GSETTINGS_BACKEND=memory
+    export XDG_CONFIG_HOME=$home/.config XDG_DATA_HOME=$home/.local/share XDG_CACHE_HOME=$home/.cache
+    export XDG_STATE_HOME=$home/.local/state XDG_RUNTIME_DIR=$home/.runtime
+    export XDG_CONFIG_DIRS=/etc/xdg XDG_DATA_DIRS=/usr/local/share:/usr/share
+    export XDG_CURRENT_DESKTOP=XFCE XDG_SESSION_TYPE=x11 TARNWICK_DESKTOP_SCALE=$scale
+    mkdir -p "$logs" "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_CACHE_HOME" "$XDG_STATE_HOME"
+    mkdir -m 700 "$XDG_RUNTIME_DIR"
+}
+
+start_desktop() {
+    local width=$((${size%x*} * scale)) height=$((${size#*x} * scale))
+    start_and_read Xvfb -displayfd 3 -screen 0 "${width}x${height}x24" -dpi $((96 * scale)) \
+        -nolisten tcp -noreset
+    export DISPLAY=:$answer
+    start_and_read dbus-daemon --session --nofork --print-address=3
+    export DBUS_SESSION_BUS_ADDRESS=$answer
+    "$scripts/desktop_theme.sh" "$theme"
+    start xsettingsd
+    echo "${pids[-1]}" >"$XDG_RUNTIME_DIR/xsettingsd.pid"
+    gdbus call --session --dest org.a11y.Bus --object-path /org/a11y/bus \
+        --method org.freedesktop.DBus.Properties.Set org.a11y.Status IsEnabled '<true>' \
+        >"$logs/accessibility.log" 2>&1 || give_up "the accessibility bus did not start"
+    start openbox --sm-disable
+    "$scripts/wait_for_desktop.py" window-manager || give_up "openbox did not start"
+}
+
+enter_private_environment
+start_desktop
+if [[ $host != none ]]; then
+    start "$scripts/tray_host.sh" "$host"
+    "$scripts/wait_for_desktop.py" "$host" || give_up "$host did not offer a tray"
+fi
+
+setpriv --pdeathsig TERM -- "$@" <&0 &
+pids+=($!)
+status=0
+wait "$!" || status=$?
+exit "$status"
