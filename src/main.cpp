@@ -5,7 +5,7 @@
 #include "platform/platform.h"
 #include "platform/tray_host.h"
 #include "shell/app_delegate.h"
-#include "shell/status_menu_accessible.h"
+#include "shell/menu/status_menu_accessible.h"
 
 #include <QApplication>
 

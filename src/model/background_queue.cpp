@@ -24,8 +24,7 @@ enum class Place { Held, GivenUp, Left };
 BackgroundQueue::BackgroundQueue(QObject* parent)
     : QObject(parent)
     , m_pool(std::make_unique<QThreadPool>())
-{
-}
+{}
 
 BackgroundQueue::~BackgroundQueue()
 {
@@ -47,9 +46,8 @@ void BackgroundQueue::post(std::function<void()> job)
     };
     pool->start([this, place, pool, giveUpPlace, job = std::move(job)] {
         enterBackgroundPriority();
-        QMetaObject::invokeMethod(this, [this, giveUpPlace] {
-            QTimer::singleShot(patience, this, giveUpPlace);
-        });
+        QMetaObject::invokeMethod(
+            this, [this, giveUpPlace] { QTimer::singleShot(patience, this, giveUpPlace); });
         job();
         if (place->exchange(Place::Left) == Place::GivenUp)
             pool->reserveThread();

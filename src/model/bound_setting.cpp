@@ -22,6 +22,9 @@ bool BoundSetting::value() const
     return stored.typeId() == QMetaType::Bool ? stored.toBool() : m_preference.fallback;
 }
 
-void BoundSetting::setValue(bool value) { m_store.setBool(value, m_preference.key); }
+void BoundSetting::setValue(bool value)
+{
+    m_store.setBool(value, m_preference.key);
+}
 
 } // namespace tarnwick

@@ -30,8 +30,7 @@ public:
 
     explicit CommandRunner(Programs programs)
         : m_programs(std::move(programs))
-    {
-    }
+    {}
 
     /// Blocks the calling thread until git has exited; there is no time-out. The completion then
     /// runs later on the main thread, and the record is kept alive until it has run.

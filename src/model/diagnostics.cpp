@@ -16,6 +16,9 @@ void writeDiagnosticLine(const QString& line)
     std::fflush(stdout);
 }
 
-void stopProcess() { std::terminate(); }
+void stopProcess()
+{
+    std::terminate();
+}
 
 } // namespace tarnwick

@@ -35,7 +35,10 @@ PreferencesStore::PreferencesStore(QString filePath, QObject* parent)
     load();
 }
 
-PreferencesStore::~PreferencesStore() { synchronize(); }
+PreferencesStore::~PreferencesStore()
+{
+    synchronize();
+}
 
 QString PreferencesStore::defaultFilePath()
 {
@@ -49,7 +52,10 @@ bool PreferencesStore::boolForKey(const QString& key) const
     return m_values.value(key).toBool(false);
 }
 
-void PreferencesStore::setBool(bool value, const QString& key) { write(key, value); }
+void PreferencesStore::setBool(bool value, const QString& key)
+{
+    write(key, value);
+}
 
 std::optional<QString> PreferencesStore::stringForKey(const QString& key) const
 {
@@ -58,7 +64,10 @@ std::optional<QString> PreferencesStore::stringForKey(const QString& key) const
     return value.isString() ? std::optional(value.toString()) : std::nullopt;
 }
 
-void PreferencesStore::setObject(const QString& value, const QString& key) { write(key, value); }
+void PreferencesStore::setObject(const QString& value, const QString& key)
+{
+    write(key, value);
+}
 
 QVariantMap PreferencesStore::dictionaryRepresentation() const
 {

@@ -14,8 +14,7 @@ RepoManager::RepoManager(PreferencesStore& store, RepoServices services,
     , m_services(services)
     , m_delegateSource(std::move(delegateSource))
     , m_models(loadRepos())
-{
-}
+{}
 
 void RepoManager::setModels(RepoViewModels models)
 {

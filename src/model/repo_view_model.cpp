@@ -30,8 +30,9 @@ std::optional<QString> partOf(const std::optional<QString>& gitStatus,
 
 } // namespace
 
-std::shared_ptr<RepoViewModel> RepoViewModel::create(
-    QString dir, std::shared_ptr<RepoViewModelDelegate> delegate, RepoServices services)
+std::shared_ptr<RepoViewModel>
+RepoViewModel::create(QString dir, std::shared_ptr<RepoViewModelDelegate> delegate,
+                      RepoServices services)
 {
     const std::shared_ptr<RepoViewModel> record(
         new RepoViewModel(std::move(dir), std::move(delegate), services), destroyOnItsThread);
@@ -46,8 +47,7 @@ RepoViewModel::RepoViewModel(QString dir, std::shared_ptr<RepoViewModelDelegate>
     , m_name(m_dir.split(u'/').constLast())
     , m_delegate(std::move(delegate))
     , m_services(services)
-{
-}
+{}
 
 void RepoViewModel::loadLogo()
 {
@@ -83,7 +83,8 @@ void RepoViewModel::refreshBranch()
 void RepoViewModel::refreshStatus()
 {
     const auto self = shared_from_this();
-    QMetaObject::invokeMethod(this, [self] { self->setIsLoading(true); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [self] { self->setIsLoading(true); }, Qt::QueuedConnection);
     m_services.runner.runGit(
         {QStringLiteral("-C"), m_dir, QStringLiteral("status"), QStringLiteral("-sb")}, self,
         [self](const QString& output, RepoViewModel& record) {

@@ -5,8 +5,8 @@
 #include "model/repo_manager.h"
 #include "platform/platform.h"
 #include "shell/application_menu.h"
+#include "shell/menu/status_menu.h"
 #include "shell/status_item.h"
-#include "shell/status_menu.h"
 
 namespace tarnwick {
 
@@ -21,8 +21,7 @@ AppDelegate::AppDelegate(Platform& platform, PreferencesStore& store, RepoServic
     , m_store(store)
     , m_services(services)
     , m_appMenu(std::make_shared<ApplicationMenu>(store))
-{
-}
+{}
 
 AppDelegate::~AppDelegate()
 {
@@ -30,7 +29,10 @@ AppDelegate::~AppDelegate()
     sharedDelegate = nullptr;
 }
 
-AppDelegate* AppDelegate::shared() { return sharedDelegate; }
+AppDelegate* AppDelegate::shared()
+{
+    return sharedDelegate;
+}
 
 void AppDelegate::applicationDidFinishLaunching()
 {
@@ -39,7 +41,10 @@ void AppDelegate::applicationDidFinishLaunching()
     rebuildMenu();
 }
 
-void AppDelegate::menuWillOpen() { m_appMenu->refreshOnOpen(); }
+void AppDelegate::menuWillOpen()
+{
+    m_appMenu->refreshOnOpen();
+}
 
 StatusItem& AppDelegate::statusBarItem()
 {
@@ -79,7 +84,10 @@ void AppDelegate::makeStatusItem()
             [this] { refreshAll(m_appMenu->models()); });
 }
 
-void AppDelegate::openMenu(const QRect& anchor) { m_menu->popUpBeside(anchor); }
+void AppDelegate::openMenu(const QRect& anchor)
+{
+    m_menu->popUpBeside(anchor);
+}
 
 void rebuildMenu()
 {

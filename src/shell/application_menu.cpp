@@ -4,8 +4,8 @@
 #include "model/preference_keys.h"
 #include "model/preferences_store.h"
 #include "model/repo_manager.h"
-#include "shell/hosting_view.h"
-#include "shell/status_menu.h"
+#include "shell/menu/hosting_view.h"
+#include "shell/menu/status_menu.h"
 #include "views/empty_state_view.h"
 #include "views/repo_status_view.h"
 
@@ -26,8 +26,7 @@ constexpr auto refreshDelay = 200ms;
 
 ApplicationMenu::ApplicationMenu(PreferencesStore& store)
     : m_store(store)
-{
-}
+{}
 
 std::unique_ptr<StatusMenu> ApplicationMenu::buildMenu(const RepoManager& repositories)
 {

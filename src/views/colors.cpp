@@ -71,7 +71,10 @@ QColor colorFromHex(const QString& text)
     }
 }
 
-QColor labelColor(const QPalette& palette) { return palette.color(QPalette::WindowText); }
+QColor labelColor(const QPalette& palette)
+{
+    return palette.color(QPalette::WindowText);
+}
 
 QColor secondaryLabelColor(const QPalette& palette)
 {
@@ -82,7 +85,10 @@ QColor secondaryLabelColor(const QPalette& palette)
 
 namespace colors {
 
-QColor white() { return Qt::white; }
+QColor white()
+{
+    return Qt::white;
+}
 
 QColor green(Appearance appearance)
 {
@@ -90,10 +96,22 @@ QColor green(Appearance appearance)
                                           : QColor::fromRgbF(0.0F, 0.6F, 0.0F);
 }
 
-QColor red(Appearance appearance) { return shade(appearance, 0xd9261c, 0xff5f57); }
-QColor indigo(Appearance appearance) { return shade(appearance, 0x5856d6, 0x8b89ff); }
-QColor purple(Appearance appearance) { return shade(appearance, 0x9b3fc8, 0xcb7cf2); }
-QColor blue(Appearance appearance) { return shade(appearance, 0x0a66d8, 0x4da3ff); }
+QColor red(Appearance appearance)
+{
+    return shade(appearance, 0xd9261c, 0xff5f57);
+}
+QColor indigo(Appearance appearance)
+{
+    return shade(appearance, 0x5856d6, 0x8b89ff);
+}
+QColor purple(Appearance appearance)
+{
+    return shade(appearance, 0x9b3fc8, 0xcb7cf2);
+}
+QColor blue(Appearance appearance)
+{
+    return shade(appearance, 0x0a66d8, 0x4da3ff);
+}
 
 QColor orange(Appearance appearance)
 {
@@ -101,8 +119,14 @@ QColor orange(Appearance appearance)
                                           : colorFromHex(QStringLiteral("FFB300"));
 }
 
-QColor teal(Appearance appearance) { return shade(appearance, 0x0a7f92, 0x55c8d8); }
-QColor yellow(Appearance appearance) { return shade(appearance, 0xa07d00, 0xffd60a); }
+QColor teal(Appearance appearance)
+{
+    return shade(appearance, 0x0a7f92, 0x55c8d8);
+}
+QColor yellow(Appearance appearance)
+{
+    return shade(appearance, 0xa07d00, 0xffd60a);
+}
 
 } // namespace colors
 

@@ -37,7 +37,10 @@ EmptyStateView::EmptyStateView(QWidget* parent)
     render();
 }
 
-QString EmptyStateView::text() const { return emptyStateText(tr("the gear")); }
+QString EmptyStateView::text() const
+{
+    return emptyStateText(tr("the gear"));
+}
 
 QSize EmptyStateView::sizeHint() const
 {

@@ -104,7 +104,10 @@ QString RepoStatusView::text() const
     return said.join(QStringLiteral(", "));
 }
 
-QSize RepoStatusView::sizeHint() const { return {rowWidth, layout()->heightForWidth(rowWidth)}; }
+QSize RepoStatusView::sizeHint() const
+{
+    return {rowWidth, layout()->heightForWidth(rowWidth)};
+}
 
 void RepoStatusView::changeEvent(QEvent* event)
 {
@@ -230,6 +233,9 @@ void RepoStatusView::renderStatus()
     m_cleanLine->setVisible(m_vm->isRepo() && !summary && m_showCleanRepoStatus.value());
 }
 
-void RepoStatusView::renderSpinner() { m_spinner->setVisible(m_vm->isLoading()); }
+void RepoStatusView::renderSpinner()
+{
+    m_spinner->setVisible(m_vm->isLoading());
+}
 
 } // namespace tarnwick

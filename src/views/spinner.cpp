@@ -22,9 +22,15 @@ Spinner::Spinner(QWidget* parent)
     setAccessibleName(tr("Loading"));
 }
 
-QSize Spinner::sizeHint() const { return {20, 16}; }
+QSize Spinner::sizeHint() const
+{
+    return {20, 16};
+}
 
-void Spinner::hideEvent(QHideEvent* /*event*/) { m_timer.stop(); }
+void Spinner::hideEvent(QHideEvent* /*event*/)
+{
+    m_timer.stop();
+}
 
 void Spinner::paintEvent(QPaintEvent* /*event*/)
 {
@@ -44,7 +50,10 @@ void Spinner::paintEvent(QPaintEvent* /*event*/)
     }
 }
 
-void Spinner::showEvent(QShowEvent* /*event*/) { m_timer.start(stepMs, this); }
+void Spinner::showEvent(QShowEvent* /*event*/)
+{
+    m_timer.start(stepMs, this);
+}
 
 void Spinner::timerEvent(QTimerEvent* /*event*/)
 {

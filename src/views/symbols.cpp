@@ -12,8 +12,8 @@ namespace {
 
 QString loadSymbolFont()
 {
-    const auto data = QByteArray::fromRawData(
-        reinterpret_cast<const char*>(symbolFontData.data()), symbolFontSize);
+    const auto data = QByteArray::fromRawData(reinterpret_cast<const char*>(symbolFontData.data()),
+                                              symbolFontSize);
     const int font = QFontDatabase::addApplicationFontFromData(data);
     return QFontDatabase::applicationFontFamilies(font).value(0);
 }
@@ -37,7 +37,10 @@ QFont withSymbols(const QFont& interfaceFont)
     return font;
 }
 
-QString glyphText(char32_t codePoint) { return QString::fromUcs4(&codePoint, 1); }
+QString glyphText(char32_t codePoint)
+{
+    return QString::fromUcs4(&codePoint, 1);
+}
 
 QString symbolNamed(QStringView name)
 {

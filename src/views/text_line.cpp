@@ -13,6 +13,8 @@ namespace tarnwick {
 
 namespace {
 
+constexpr qreal lineGap = 3;
+
 void breakIntoLines(QTextLayout& layout, qreal width)
 {
     qreal y = 0;
@@ -20,7 +22,7 @@ void breakIntoLines(QTextLayout& layout, qreal width)
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
         line.setPosition({0, y});
-        y += line.height();
+        y += line.height() + lineGap;
     }
     layout.endLayout();
 }

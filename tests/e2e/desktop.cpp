@@ -51,7 +51,9 @@ QStringList RunningProgram::printedLines()
 
 qsizetype RunningProgram::printedCount(const QString& start)
 {
-    return printedLines().filter(QRegularExpression(u'^' + QRegularExpression::escape(start))).size();
+    return printedLines()
+        .filter(QRegularExpression(u'^' + QRegularExpression::escape(start)))
+        .size();
 }
 
 QJsonObject RunningProgram::preferences() const
@@ -100,7 +102,10 @@ Accessible accessibleNamed(const QString& start)
     return {};
 }
 
-void xdotool(const QStringList& arguments) { outputOf(u"xdotool"_qs, arguments); }
+void xdotool(const QStringList& arguments)
+{
+    outputOf(u"xdotool"_qs, arguments);
+}
 
 void click(QPoint position, int button)
 {
@@ -108,17 +113,20 @@ void click(QPoint position, int button)
              u"click"_qs, QString::number(button)});
 }
 
-void key(const QString& name) { xdotool({u"key"_qs, name}); }
+void key(const QString& name)
+{
+    xdotool({u"key"_qs, name});
+}
 
 QImage screenshot()
 {
-    return QImage::fromData(outputOf(u"import"_qs, {u"-window"_qs, u"root"_qs, u"png:-"_qs}), "PNG");
+    return QImage::fromData(outputOf(u"import"_qs, {u"-window"_qs, u"root"_qs, u"png:-"_qs}),
+                            "PNG");
 }
 
 QString runScript(const QString& name, const QStringList& arguments)
 {
-    return QString::fromUtf8(
-        outputOf(QStringLiteral(TARNWICK_SCRIPTS "/") + name, arguments));
+    return QString::fromUtf8(outputOf(QStringLiteral(TARNWICK_SCRIPTS "/") + name, arguments));
 }
 
 } // namespace tarnwick::test

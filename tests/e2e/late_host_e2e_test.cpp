@@ -27,8 +27,8 @@ void LateHostE2eTest::itemAppearsWithTheHost()
 {
     QFETCH(QString, host);
     RunningProgram program;
-    QTRY_COMPARE_WITH_TIMEOUT(
-        program.printedCount(u"No status bar found; waiting for one."_qs), 1, 15000);
+    QTRY_COMPARE_WITH_TIMEOUT(program.printedCount(u"No status bar found; waiting for one."_qs), 1,
+                              15000);
     QVERIFY(statusItemPosition().isNull());
 
     QProcess panel;

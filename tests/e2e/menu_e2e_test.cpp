@@ -61,13 +61,15 @@ void MenuE2eTest::rowsFollowTheList()
     const TemporaryRepository dirty(u"dirty it's"_qs);
     dirty.run({u"git checkout -q -b feature/x; touch new; echo x >> a"_qs});
     const TemporaryRepository clean(u"clean"_qs);
-    RunningProgram program({{u"repos"_qs, QStringList{dirty.dir(), u"/nonexistent/plain"_qs,
-                                                      clean.dir() + u'/'}
-                                              .join(u'\n')}});
+    RunningProgram program(
+        {{u"repos"_qs,
+          QStringList{dirty.dir(), u"/nonexistent/plain"_qs, clean.dir() + u'/'}.join(u'\n')}});
     QVERIFY(openMenu());
-    QTRY_COMPARE_WITH_TIMEOUT(menuRows(),
-                 (QStringList{u"dirty it's, branch feature/x, 1 change, 1 untracked"_qs,
-                              u"plain"_qs, u"clean, branch main, Repo is clean"_qs}), 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(
+        menuRows(),
+        (QStringList{u"dirty it's, branch feature/x, 1 change, 1 untracked"_qs, u"plain"_qs,
+                     u"clean, branch main, Repo is clean"_qs}),
+        10000);
     // Directly below the panel, one row under the other, all of it on the screen.
     const QRect first = accessibleNamed(u"dirty"_qs).area;
     const QRect last = accessibleNamed(u"clean"_qs).area;
@@ -90,8 +92,9 @@ void MenuE2eTest::emptyListSaysWhatToDo()
 {
     const RunningProgram program;
     QVERIFY(openMenu());
-    QCOMPARE(menuRows(),
-             QStringList{u"Open the settings (the gear) and add some repositories to get started!"_qs});
+    QCOMPARE(
+        menuRows(),
+        QStringList{u"Open the settings (the gear) and add some repositories to get started!"_qs});
 }
 
 void MenuE2eTest::refreshesWhenOpenedIfWanted_data()
@@ -113,7 +116,8 @@ void MenuE2eTest::refreshesWhenOpenedIfWanted()
         preferences.insert(u"refreshOnMenuOpen"_qs, refreshOnMenuOpen);
     RunningProgram program(preferences);
     QVERIFY(openMenu());
-    QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{u"repo, branch main, Repo is clean"_qs}, 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{u"repo, branch main, Repo is clean"_qs},
+                              10000);
     key(u"Escape"_qs);
     QTRY_VERIFY(menuRows().isEmpty());
 
@@ -121,8 +125,7 @@ void MenuE2eTest::refreshesWhenOpenedIfWanted()
     const qsizetype runsBefore = program.printedCount(statusRun);
     QVERIFY(openMenu());
     QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{expected}, 10000);
-    QCOMPARE(program.printedCount(statusRun) - runsBefore,
-             refreshOnMenuOpen.toBool() ? 2 : 0);
+    QCOMPARE(program.printedCount(statusRun) - runsBefore, refreshOnMenuOpen.toBool() ? 2 : 0);
 }
 
 void MenuE2eTest::branchClickLeavesTheMenuOpen()
@@ -168,8 +171,9 @@ void MenuE2eTest::hundredRepositoriesScroll()
     const QRect first = accessibleNamed(u"folder001"_qs).area;
     QVERIFY(first.width() <= 360);
     QVERIFY(!screenshot().rect().contains(accessibleNamed(u"repo, "_qs).area));
-    xdotool({u"mousemove"_qs, QString::number(first.center().x()), QString::number(first.bottom() + 60),
-             u"click"_qs, u"--repeat"_qs, u"150"_qs, u"--delay"_qs, u"5"_qs, u"5"_qs});
+    xdotool({u"mousemove"_qs, QString::number(first.center().x()),
+             QString::number(first.bottom() + 60), u"click"_qs, u"--repeat"_qs, u"150"_qs,
+             u"--delay"_qs, u"5"_qs, u"5"_qs});
     QTRY_VERIFY_WITH_TIMEOUT(
         screenshot().rect().contains(accessibleNamed(u"repo, branch main"_qs).area), 10000);
     QCOMPARE(accessibleNamed(u"repo, branch main"_qs).area.left(), first.left());

@@ -2,8 +2,8 @@
 #include "model/background_queue.h"
 #include "model/command_runner.h"
 #include "model/git_status.h"
-#include "model/repo_manager.h"
 #include "model/preferences_store.h"
+#include "model/repo_manager.h"
 #include "support/stops_process.h"
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
@@ -60,9 +60,11 @@ void CommandRunnerTest::deliversOnTheMainThread_data()
 {
     QTest::addColumn<QString>("script");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("whole, line feed included") << u"echo one; echo two; exit 3"_qs << u"one\ntwo\n"_qs;
+    QTest::newRow("whole, line feed included")
+        << u"echo one; echo two; exit 3"_qs << u"one\ntwo\n"_qs;
     QTest::newRow("failure is empty") << u"echo fatal >&2; exit 128"_qs << QString();
-    QTest::newRow("letters") << u"printf '\\303\\251\\360\\237\\214\\277'"_qs << u"\u00e9\U0001f33f"_qs;
+    QTest::newRow("letters") << u"printf '\\303\\251\\360\\237\\214\\277'"_qs
+                             << u"\u00e9\U0001f33f"_qs;
     QTest::newRow("byte order mark stays") << u"printf '\\357\\273\\277x'"_qs << u"\ufeffx"_qs;
     QTest::newRow("more than a pipe holds on both channels")
         << u"head -c 300000 /dev/zero | tr '\\0' e >&2; head -c 300000 /dev/zero | tr '\\0' o"_qs
@@ -135,9 +137,8 @@ void CommandRunnerTest::stops_data()
     const auto row = [](const char* name, std::function<void()> action) {
         QTest::newRow(name) << std::move(action);
     };
-    row("git that cannot be started", [this] {
-        CommandRunner({.git = u"/nonexistent/git"_qs}).runGit({}, m_record, {});
-    });
+    row("git that cannot be started",
+        [this] { CommandRunner({.git = u"/nonexistent/git"_qs}).runGit({}, m_record, {}); });
     row("empty status", [] { static_cast<void>(changedFiles({})); });
     row("status without a line feed", [] { static_cast<void>(changedFiles(u"1?"_qs)); });
     row("list without a delegate", [this] {

@@ -43,8 +43,7 @@ void GitStatusTest::summary_data()
     row("AM, RM and MD count nowhere", header + u"A  n\nAM o\nRM p -> q\nMD r\n"_qs, u"1~added"_qs);
     row("removed before deleted", header + u" D gone\nD  old\n"_qs, u"1~removed, 1~deleted"_qs);
     row("code within a name", header + u"?? x M y.txt\n"_qs, u"1~change, 1~untracked"_qs);
-    row("code within the header", u"## No commits yet on M  x\n"_qs,
-        u"1~change, 1~staged"_qs);
+    row("code within the header", u"## No commits yet on M  x\n"_qs, u"1~change, 1~staged"_qs);
     row("DD is only removed half", header + u" DD\n"_qs, u"1~removed"_qs);
     row("more blanks after ahead", u"## m [ahead  2]\n"_qs, u" 2~ahead"_qs);
     row("gone upstream", u"## main...origin/main [gone]\n"_qs, {});
@@ -67,7 +66,8 @@ void GitStatusTest::changedPaths_data()
 
     QTest::newRow("header alone") << u"## main\n"_qs << QStringList();
     QTest::newRow("both halves at the end")
-        << u"## main\nA  a\nMM b\n M c\n"_qs << QStringList{u"A  a"_qs, u" M c"_qs, u"M  b"_qs, u" M b"_qs};
+        << u"## main\nA  a\nMM b\n M c\n"_qs
+        << QStringList{u"A  a"_qs, u" M c"_qs, u"M  b"_qs, u" M b"_qs};
     QTest::newRow("several, in their order")
         << u"## main\nMM b\nMM a\n?? x\n"_qs
         << QStringList{u"?? x"_qs, u"M  b"_qs, u" M b"_qs, u"M  a"_qs, u" M a"_qs};

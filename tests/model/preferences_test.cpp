@@ -21,8 +21,7 @@ using namespace tarnwick::test;
 namespace {
 
 struct Delegate : RepoViewModelDelegate
-{
-};
+{};
 
 } // namespace
 

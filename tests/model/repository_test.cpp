@@ -72,9 +72,9 @@ void RepositoryTest::readsRealRepositories_data()
     row("feature branch", {u"git checkout -q -b feature/x"_qs}, u"feature/x: clean"_qs);
     row("detached head", {u"git checkout -q --detach"_qs}, u"HEAD: clean"_qs);
     row("unborn branch", {u"rm -rf .git; git init -q -b main"_qs}, u"HEAD: 4 untracked"_qs);
-    row("conflict", {u"git checkout -q -b o; echo o > a; git commit -q -am o"_qs,
-                     u"git checkout -q main; echo m > a; git commit -q -am m"_qs,
-                     u"git merge -q o || true"_qs},
+    row("conflict",
+        {u"git checkout -q -b o; echo o > a; git commit -q -am o"_qs,
+         u"git checkout -q main; echo m > a; git commit -q -am m"_qs, u"git merge -q o || true"_qs},
         u"main: clean"_qs);
     row("rename", {u"git mv a z; echo x >> b"_qs}, u"main: 1 change"_qs);
     row("not git's after all", {u"rm -rf .git; mkdir .git"_qs}, u": clean"_qs);
@@ -118,9 +118,10 @@ void RepositoryTest::surroundingsChangeNothing()
     QFETCH(QByteArray, variable);
     QFETCH(QByteArray, value);
     const TemporaryRepository repository;
-    repository.run({u"git clone -q --bare . ../up.git; git remote add origin ../up.git"_qs,
-                    u"git fetch -q; git branch -q -u origin/main; git config color.status always"_qs,
-                    u"git config color.ui always; git commit -q --allow-empty -m x; echo x >> a"_qs});
+    repository.run(
+        {u"git clone -q --bare . ../up.git; git remote add origin ../up.git"_qs,
+         u"git fetch -q; git branch -q -u origin/main; git config color.status always"_qs,
+         u"git config color.ui always; git commit -q --allow-empty -m x; echo x >> a"_qs});
     qputenv(variable.constData(), value);
     const QString read = settled(*record(repository.dir()));
     qunsetenv(variable.constData());

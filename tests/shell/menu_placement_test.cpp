@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "shell/click_guard.h"
-#include "shell/hover_path.h"
-#include "shell/menu_placement.h"
+#include "shell/menu/click_guard.h"
+#include "shell/menu/hover_path.h"
+#include "shell/menu/menu_placement.h"
 #include "support/test_registry.h"
 
 #include <QTest>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "shell/hosting_view.h"
-#include "shell/key_window.h"
-#include "shell/status_menu.h"
-#include "shell/status_menu_accessible.h"
+#include "shell/menu/hosting_view.h"
+#include "shell/menu/key_window.h"
+#include "shell/menu/status_menu.h"
+#include "shell/menu/status_menu_accessible.h"
 #include "support/test_registry.h"
 
 #include <QAccessible>

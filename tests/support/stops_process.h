@@ -18,7 +18,8 @@ inline bool stopsProcess(const std::function<void()>& action)
         _exit(0);
     }
     int status = 0;
-    return waitpid(child, &status, 0) == child && WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT;
+    return waitpid(child, &status, 0) == child && WIFSIGNALED(status) &&
+           WTERMSIG(status) == SIGABRT;
 }
 
 } // namespace tarnwick::test

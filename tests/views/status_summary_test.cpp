@@ -95,10 +95,9 @@ void StatusSummaryTest::parts()
                 continue;
             }
             // A named colour may have any shade of its hue.
-            static const QMap<QString, int> hues{{u"green"_qs, 130}, {u"red"_qs, 3},
-                                                 {u"indigo"_qs, 241}, {u"purple"_qs, 280},
-                                                 {u"blue"_qs, 212},  {u"orange"_qs, 36},
-                                                 {u"teal"_qs, 188},  {u"yellow"_qs, 48}};
+            static const QMap<QString, int> hues{
+                {u"green"_qs, 130}, {u"red"_qs, 3},     {u"indigo"_qs, 241}, {u"purple"_qs, 280},
+                {u"blue"_qs, 212},  {u"orange"_qs, 36}, {u"teal"_qs, 188},   {u"yellow"_qs, 48}};
             QVERIFY2(std::abs(segment.color.hslHue() - hues.value(name)) < 12,
                      qPrintable(name + u' ' + segment.color.name()));
         }
@@ -107,8 +106,8 @@ void StatusSummaryTest::parts()
 
 void StatusSummaryTest::wholeSummary()
 {
-    const auto segments = statusText(u"2\u00a0changes, 1\u00a0behind"_qs, SummaryStyle::OnlyIcons,
-                                     Appearance::Light);
+    const auto segments =
+        statusText(u"2\u00a0changes, 1\u00a0behind"_qs, SummaryStyle::OnlyIcons, Appearance::Light);
     QCOMPARE(segments.size(), 2);
     QCOMPARE(segments.at(0).color, QColor(0xff, 0xb3, 0x00));
     QCOMPARE(segments.at(1).text, u"\U00100129\u00a01   "_qs);

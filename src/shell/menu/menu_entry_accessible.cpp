@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "shell/menu_entry_accessible.h"
+#include "shell/menu/menu_entry_accessible.h"
 
-#include "shell/status_menu.h"
+#include "shell/menu/status_menu.h"
 
 #include <QAccessibleObject>
 #include <QAction>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/click_guard.h"
+#include "shell/menu/click_guard.h"
 
 #include <QGuiApplication>
 #include <QStyleHints>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "shell/hosted_row.h"
+#include "shell/menu/hosted_row.h"
 
-#include "shell/hosting_view.h"
+#include "shell/menu/hosting_view.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>

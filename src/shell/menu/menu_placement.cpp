@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/menu_placement.h"
+#include "shell/menu/menu_placement.h"
 
 #include <algorithm>
 

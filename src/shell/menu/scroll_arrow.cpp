@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/scroll_arrow.h"
+#include "shell/menu/scroll_arrow.h"
 
 #include <QMenu>
 #include <QMouseEvent>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/menu_style.h"
+#include "shell/menu/menu_style.h"
 
 #include <QApplication>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "shell/menu_scroller.h"
+#include "shell/menu/menu_scroller.h"
 
-#include "shell/scroll_arrow.h"
+#include "shell/menu/scroll_arrow.h"
 
 #include <QApplication>
 #include <QMenu>

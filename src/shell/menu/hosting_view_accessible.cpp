@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "shell/hosting_view_accessible.h"
+#include "shell/menu/hosting_view_accessible.h"
 
-#include "shell/hosting_view.h"
-#include "shell/status_menu.h"
+#include "shell/menu/hosting_view.h"
+#include "shell/menu/status_menu.h"
 
 namespace tarnwick {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "shell/status_menu.h"
+#include "shell/menu/status_menu.h"
 
-#include "shell/hosted_row.h"
-#include "shell/hosting_view.h"
-#include "shell/menu_placement.h"
-#include "shell/menu_style.h"
+#include "shell/menu/hosted_row.h"
+#include "shell/menu/hosting_view.h"
+#include "shell/menu/menu_placement.h"
+#include "shell/menu/menu_style.h"
 
 #include <QActionEvent>
 #include <QApplication>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "shell/status_menu_accessible.h"
+#include "shell/menu/status_menu_accessible.h"
 
-#include "shell/hosting_view.h"
-#include "shell/hosting_view_accessible.h"
-#include "shell/menu_entry_accessible.h"
-#include "shell/status_menu.h"
+#include "shell/menu/hosting_view.h"
+#include "shell/menu/hosting_view_accessible.h"
+#include "shell/menu/menu_entry_accessible.h"
+#include "shell/menu/status_menu.h"
 
 #include <QAccessible>
 #include <QAccessibleObject>

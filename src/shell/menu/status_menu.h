@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/click_guard.h"
-#include "shell/key_window.h"
-#include "shell/menu_scroller.h"
+#include "shell/menu/click_guard.h"
+#include "shell/menu/key_window.h"
+#include "shell/menu/menu_scroller.h"
 
 #include <QElapsedTimer>
 #include <QMenu>

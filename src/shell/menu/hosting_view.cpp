@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "shell/hosting_view.h"
+#include "shell/menu/hosting_view.h"
 
-#include "shell/key_window.h"
+#include "shell/menu/key_window.h"
 
 #include <QAccessible>
 #include <QShowEvent>

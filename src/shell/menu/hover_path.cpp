@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/hover_path.h"
+#include "shell/menu/hover_path.h"
 
 #include <QPolygon>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/handed_press.h"
+#include "shell/menu/handed_press.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>
