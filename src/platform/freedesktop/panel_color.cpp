@@ -70,8 +70,8 @@ std::optional<QColor> panelColor(const QRect& item)
 {
     if (screenCanBeRead()) {
         const QRect area = item.isEmpty() ? panelStrip() : item;
-        if (const auto seen = median(picture(area)))
-            return seen;
+        if (!area.isEmpty())
+            return median(picture(area));
     }
     if (isGnome())
         return Qt::black; // its bar is dark whatever the theme

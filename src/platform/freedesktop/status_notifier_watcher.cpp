@@ -21,6 +21,10 @@ StatusNotifierWatcher::StatusNotifierWatcher(QObject* parent)
     , m_owner(service, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForOwnerChange)
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        m_state = State::NoWatcher; // a call over it would never be answered
+        return;
+    }
     connect(&m_owner, &QDBusServiceWatcher::serviceOwnerChanged, this, &StatusNotifierWatcher::ask);
     for (const QString& change : {QStringLiteral("StatusNotifierHostRegistered"),
                                   QStringLiteral("StatusNotifierHostUnregistered")})

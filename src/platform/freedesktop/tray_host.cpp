@@ -13,7 +13,6 @@ FreedesktopTrayHost::FreedesktopTrayHost(QObject* parent)
     : TrayHost(parent)
 {
     m_trayAlone.setSingleShot(true);
-    m_trayAlone.setInterval(1s);
     connect(&m_trayAlone, &QTimer::timeout, this, [this] {
         if (m_tray.isPresent())
             settle();
@@ -21,6 +20,7 @@ FreedesktopTrayHost::FreedesktopTrayHost(QObject* parent)
     connect(&m_notifier, &StatusNotifierWatcher::stateChanged, this,
             &FreedesktopTrayHost::lookAgain);
     connect(&m_tray, &X11Tray::appeared, this, &FreedesktopTrayHost::lookAgain);
+    lookAgain();
 }
 
 void FreedesktopTrayHost::lookAgain()
@@ -30,11 +30,17 @@ void FreedesktopTrayHost::lookAgain()
         return; // the answer is on its way
     case StatusNotifierWatcher::State::HostRegistered:
         return settle();
-    case StatusNotifierWatcher::State::NoHost:
+    case StatusNotifierWatcher::State::NoHost: // at log-in the panel may be seconds behind
+        return waitForHostBeside(4s);
     case StatusNotifierWatcher::State::NoWatcher:
-        if (m_tray.isPresent())
-            m_trayAlone.start();
+        return waitForHostBeside(1s);
     }
+}
+
+void FreedesktopTrayHost::waitForHostBeside(std::chrono::milliseconds patience)
+{
+    if (m_tray.isPresent())
+        m_trayAlone.start(patience);
 }
 
 void FreedesktopTrayHost::settle()

@@ -7,13 +7,15 @@
 
 #include <QTimer>
 
+#include <chrono>
+
 namespace tarnwick {
 
 /// A status notifier host on the session bus or, on X11 only, a system tray.
 ///
 /// Where both exist Qt takes the status notifier host if it is registered when Qt first asks, and
 /// the tray otherwise, for good. A panel that offers both opens them one after the other, so a
-/// tray alone is given a moment to be joined by a host before it counts.
+/// tray alone is given a moment, longer where a host is to be expected, before it counts.
 class FreedesktopTrayHost : public TrayHost
 {
     Q_OBJECT
@@ -26,6 +28,7 @@ public:
 
 private:
     void lookAgain();
+    void waitForHostBeside(std::chrono::milliseconds patience);
     void settle();
 
     StatusNotifierWatcher m_notifier;
