@@ -60,6 +60,7 @@ void StatusItem::place()
                 [this](QSystemTrayIcon::ActivationReason reason) {
                     if (reason == QSystemTrayIcon::Context)
                         return;
+                    matchPanel(); // nothing announces a panel that was given another colour
                     Q_EMIT triggered(anchor());
                 });
         matchPanel();
@@ -82,7 +83,7 @@ void StatusItem::matchPanel()
 QRect StatusItem::anchor() const
 {
     const QRect place = m_icon->geometry();
-    return place.isEmpty() ? QRect(QCursor::pos(), QSize()) : place;
+    return place.isEmpty() ? QRect(QCursor::pos(), QSize(0, 0)) : place;
 }
 
 bool StatusItem::eventFilter(QObject* watched, QEvent* event)
