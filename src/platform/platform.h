@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QObject>
 #include <QString>
 
 #include <memory>
@@ -18,6 +19,8 @@ struct Platform
     ~Platform();
 
     std::unique_ptr<TrayHost> trayHost;
+    /// Keeps the palette with the desktop's; nothing to call.
+    std::unique_ptr<QObject> paletteFollower;
     /// Absolute path of the program that opens a directory in an application.
     QString openProgram;
 };
