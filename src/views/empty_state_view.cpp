@@ -33,6 +33,7 @@ EmptyStateView::EmptyStateView(QWidget* parent)
     layout->setContentsMargins({});
     layout->addWidget(m_text, 0, Qt::AlignVCenter);
     layout->addStretch(1);
+    setMinimumHeight(lowest);
     m_text->setFont(withSymbols(font()));
     render();
 }

@@ -102,6 +102,21 @@ Accessible accessibleNamed(const QString& start)
     return {};
 }
 
+bool openMenu()
+{
+    const auto itemIsThere = [] { return !statusItemPosition().isNull(); };
+    const auto menuIsOpen = [] { return !menuRows().isEmpty(); };
+    // A click on an item that has only just been placed may be lost.
+    return QTest::qWaitFor(itemIsThere, patienceMs) &&
+           QTest::qWaitFor(
+               [&] {
+                   if (!menuIsOpen())
+                       click(statusItemPosition());
+                   return QTest::qWaitFor(menuIsOpen, 1500);
+               },
+               patienceMs);
+}
+
 void xdotool(const QStringList& arguments)
 {
     outputOf(u"xdotool"_qs, arguments);

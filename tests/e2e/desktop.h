@@ -47,6 +47,9 @@ private:
 [[nodiscard]] QStringList menuRows();
 [[nodiscard]] Accessible accessibleNamed(const QString& start);
 
+/// Clicks the status item, once it is there, until its menu is open.
+[[nodiscard]] bool openMenu();
+
 /// Runs xdotool, which moves the real pointer and presses real keys.
 void xdotool(const QStringList& arguments);
 void click(QPoint position, int button = 1);

@@ -40,20 +40,6 @@ private Q_SLOTS:
     void contextMenuRefreshesAll();
     void hundredRepositoriesScroll();
     void followsTheDesktopIntoTheDark();
-
-private:
-    /// Clicks the status item until its menu is there, as it may have only just been placed.
-    static bool openMenu()
-    {
-        return QTest::qWaitFor([] { return !statusItemPosition().isNull(); }, 20000) &&
-               QTest::qWaitFor(
-                   [] {
-                       if (menuRows().isEmpty())
-                           click(statusItemPosition());
-                       return QTest::qWaitFor([] { return !menuRows().isEmpty(); }, 1500);
-                   },
-                   20000);
-    }
 };
 
 void MenuE2eTest::rowsFollowTheList()

@@ -10,6 +10,14 @@ MenuStyle::MenuStyle()
     : QProxyStyle(QApplication::style()->name())
 {}
 
+int MenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                           const QWidget* widget) const
+{
+    if (metric == PM_MenuHMargin || metric == PM_MenuVMargin)
+        return 6;
+    return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
 int MenuStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                          QStyleHintReturn* data) const
 {

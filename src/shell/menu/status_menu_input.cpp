@@ -64,7 +64,9 @@ void StatusMenu::mousePressEvent(QMouseEvent* event)
     const QPoint global = event->globalPosition().toPoint();
     const QPoint position = event->position().toPoint();
     if (rect().contains(position)) {
-        if (!m_scroller.hover(position))
+        // QMenu would close at the release of a press between the rows.
+        const QAction* const entry = actionAt(position);
+        if (!m_scroller.hover(position) && entry && !entry->isSeparator())
             QMenu::mousePressEvent(event);
         return;
     }
