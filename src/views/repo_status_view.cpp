@@ -23,6 +23,7 @@ constexpr int endInset = 10;
 constexpr int lineSpacing = 4;
 constexpr int symbolSpacing = 6;
 constexpr int pictureSize = 16;
+constexpr int nameLineHeight = 20;
 constexpr int branchFontSize = 13;
 constexpr int summaryFontSize = 14;
 
@@ -140,7 +141,10 @@ void RepoStatusView::layOut()
 {
     auto* const column = new QVBoxLayout;
     column->setSpacing(lineSpacing);
-    column->addWidget(newLine(m_picture, m_name, this));
+    // As high with a logo as with the symbol, which is a letter of its font.
+    auto* const nameLine = newLine(m_picture, m_name, this);
+    nameLine->setMinimumHeight(nameLineHeight);
+    column->addWidget(nameLine);
     column->addWidget(m_branchLine);
     column->addWidget(m_summary);
     column->addWidget(m_cleanLine);
