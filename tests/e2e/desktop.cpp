@@ -38,6 +38,8 @@ RunningProgram::RunningProgram(const QJsonObject& preferences)
 
 RunningProgram::~RunningProgram()
 {
+    if (m_process.state() != QProcess::Running)
+        QTest::qFail("The program ended by itself", __FILE__, __LINE__);
     m_process.terminate();
     m_process.waitForFinished(patienceMs);
 }
