@@ -4,8 +4,10 @@
 #
 # The theme travels as on an XFCE desktop, by XSettings: GTK takes Net/ThemeName from there, and so
 # does Qt through its gtk3 platform theme, which calls a GTK theme named "-dark" a dark appearance
-# and then uses Fusion's dark palette. A running Qt 6.4 program follows a change of the name. Xft/DPI
-# is what Qt derives its scale from, Gdk/WindowScalingFactor is GTK's.
+# and then uses Fusion's dark palette. When the name changes, a running Qt 6.4 program is told so by
+# QEvent::ThemeChange and finds the new colours in QStyle::standardPalette(), but its own palette keeps
+# the old ones until it sets them. Xft/DPI is what Qt derives its scale from, GTK has
+# Gdk/WindowScalingFactor.
 set -euo pipefail
 
 case ${1-} in

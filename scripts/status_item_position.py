@@ -4,7 +4,8 @@
 
 Waits up to 30 seconds for the item. Both kinds of tray embed windows: an XEmbed icon is a window of
 its own, and xfce4-panel embeds its tray plugin, which is as large as the items it shows. So the item
-is the innermost embedded window that is visible and large enough for an icon.
+is the innermost embedded window that is visible and large enough for an icon, once it stays put: a
+panel that has just started still moves its plugins.
 """
 import sys
 import time
@@ -35,14 +36,24 @@ def centre(screen, window):
         return None
 
 
+def item_centre(screen):
+    for window in embedded_windows(screen, screen.screen().root):
+        if place := centre(screen, window):
+            return place
+    return None
+
+
 def main():
     screen = display.Display()
     deadline = time.monotonic() + 30
+    last, seen = None, 0
     while time.monotonic() < deadline:
-        for window in embedded_windows(screen, screen.screen().root):
-            if place := centre(screen, window):
-                print(*place)
-                return
+        place = item_centre(screen)
+        seen = seen + 1 if place == last else 0
+        if place and seen == 8:
+            print(*place)
+            return
+        last = place
         time.sleep(0.05)
     sys.exit("status_item_position.py: no tray item appeared")
 

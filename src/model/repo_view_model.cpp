@@ -34,7 +34,7 @@ std::shared_ptr<RepoViewModel>
 RepoViewModel::create(QString dir, std::shared_ptr<RepoViewModelDelegate> delegate,
                       RepoServices services)
 {
-    const std::shared_ptr<RepoViewModel> record(
+    std::shared_ptr<RepoViewModel> record(
         new RepoViewModel(std::move(dir), std::move(delegate), services), destroyOnItsThread);
     record->loadLogo();
     record->startQueries();
