@@ -39,7 +39,7 @@ run_preset() {
 }
 
 check "the sources are formatted" formatted
-check "includes run downwards, connections end" tests/checks/source_rules.py
+check "includes run downwards, connections end" scripts/check_sources.py
 run_preset dev
 run_preset sanitize
 

@@ -73,10 +73,9 @@ QPoint statusItemPosition()
 
 QList<Accessible> accessibleTree()
 {
-    const QByteArray printed =
-        outputOf(QStringLiteral(TARNWICK_TESTS "/e2e/accessible_tree.py"), {u"tarnwick"_qs});
+    const QString printed = runScript(u"accessible_tree.py"_qs, {u"tarnwick"_qs});
     QList<Accessible> tree;
-    for (const QString& line : QString::fromUtf8(printed).split(u'\n', Qt::SkipEmptyParts)) {
+    for (const QString& line : printed.split(u'\n', Qt::SkipEmptyParts)) {
         const QStringList parts = line.split(u'\t');
         tree.append({{parts[0].toInt(), parts[1].toInt(), parts[2].toInt(), parts[3].toInt()},
                      parts[4],

@@ -26,8 +26,6 @@ private Q_SLOTS:
     void plainFolderRunsNoGit();
     void staysWhatItWasAtCreation();
     void loadsItsLogo();
-    void lateResultsOutliveTheRecordsHolder();
-    void equalByDirectory();
 
 private:
     [[nodiscard]] std::shared_ptr<RepoViewModel> record(const QString& dir)
@@ -101,30 +99,31 @@ void RepositoryTest::readsLinkedWorkTreesAndSubmodules()
 
 void RepositoryTest::surroundingsChangeNothing_data()
 {
-    QTest::addColumn<QByteArray>("variable");
     QTest::addColumn<QByteArray>("value");
-    QTest::newRow("language") << QByteArray("LANG") << QByteArray("de_DE.UTF-8");
-    QTest::newRow("preferred languages") << QByteArray("LANGUAGE") << QByteArray("de:fr");
-    QTest::newRow("git folder") << QByteArray("GIT_DIR") << QByteArray("/nonexistent/.git");
-    QTest::newRow("work tree") << QByteArray("GIT_WORK_TREE") << QByteArray("/");
-    QTest::newRow("index") << QByteArray("GIT_INDEX_FILE") << QByteArray("/nonexistent/index");
-    QTest::newRow("parameters") << QByteArray("GIT_CONFIG_PARAMETERS")
-                                << QByteArray("'status.branch'='false' 'color.status'='always'");
-    QTest::newRow("count") << QByteArray("GIT_CONFIG_COUNT") << QByteArray("nonsense");
+    const auto row = [](const char* variable, const char* value) {
+        QTest::newRow(variable) << QByteArray(value);
+    };
+    row("LANG", "de_DE.UTF-8");
+    row("LANGUAGE", "de:fr");
+    row("GIT_DIR", "/nonexistent/.git");
+    row("GIT_WORK_TREE", "/");
+    row("GIT_INDEX_FILE", "/nonexistent/index");
+    row("GIT_CONFIG_PARAMETERS", "'status.branch'='false' 'color.status'='always'");
+    row("GIT_CONFIG_COUNT", "nonsense");
 }
 
 void RepositoryTest::surroundingsChangeNothing()
 {
-    QFETCH(QByteArray, variable);
+    const char* const variable = QTest::currentDataTag();
     QFETCH(QByteArray, value);
     const TemporaryRepository repository;
     repository.run(
         {u"git clone -q --bare . ../up.git; git remote add origin ../up.git"_qs,
          u"git fetch -q; git branch -q -u origin/main; git config color.status always"_qs,
          u"git config color.ui always; git commit -q --allow-empty -m x; echo x >> a"_qs});
-    qputenv(variable.constData(), value);
+    qputenv(variable, value);
     const QString read = settled(*record(repository.dir()));
-    qunsetenv(variable.constData());
+    qunsetenv(variable);
     QCOMPARE(read, u"main: 1 change, 1 ahead"_qs);
 }
 
@@ -184,23 +183,6 @@ void RepositoryTest::loadsItsLogo()
     QImage picture(3, 5, QImage::Format_RGB32);
     QVERIFY(picture.save(repository.dir() + u"/TarnwickLogo.png"_qs));
     QCOMPARE(record(repository.dir())->logo().value().size(), QSize(3, 5));
-}
-
-void RepositoryTest::lateResultsOutliveTheRecordsHolder()
-{
-    const TemporaryRepository repository;
-    std::weak_ptr<RepoViewModel> discarded = record(repository.dir());
-    QVERIFY(!discarded.expired());
-    QTRY_VERIFY(discarded.expired());
-}
-
-void RepositoryTest::equalByDirectory()
-{
-    const auto first = record(u"/nonexistent/a"_qs);
-    const auto second = record(u"/nonexistent/a"_qs);
-    const auto other = record(u"/nonexistent/A"_qs);
-    QVERIFY(*first == *second && qHash(*first) == qHash(*second));
-    QVERIFY(!(*first == *other));
 }
 
 TARNWICK_TEST(RepositoryTest)

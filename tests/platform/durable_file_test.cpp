@@ -15,7 +15,6 @@ class DurableFileTest : public QObject
 private Q_SLOTS:
     void onlyTheOwnerMayRead();
     void linkStaysALink();
-    void failureLeavesTheOldContent();
 
 private:
     static QByteArray contentOf(const QString& path)
@@ -48,16 +47,6 @@ void DurableFileTest::linkStaysALink()
     QVERIFY(replaceFileDurably(link, "new"));
     QVERIFY(QFileInfo(link).isSymLink());
     QCOMPARE(contentOf(target), QByteArray("new"));
-}
-
-void DurableFileTest::failureLeavesTheOldContent()
-{
-    const QTemporaryDir folder;
-    const QString file = folder.filePath(u"file"_qs);
-    writeFile(file, "old");
-    QVERIFY(!replaceFileDurably(file + u"/below"_qs, "new"));
-    QVERIFY(!replaceFileDurably(folder.path(), "new"));
-    QCOMPARE(contentOf(file), QByteArray("old"));
 }
 
 TARNWICK_TEST(DurableFileTest)

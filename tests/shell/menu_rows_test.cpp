@@ -2,10 +2,8 @@
 #include "shell/menu/hosting_view.h"
 #include "shell/menu/key_window.h"
 #include "shell/menu/status_menu.h"
-#include "shell/menu/status_menu_accessible.h"
 #include "support/test_registry.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -98,7 +96,6 @@ private Q_SLOTS:
     void manyRowsMakeOneColumn();
     void keysReachEverything();
     void refreshPaintsOneRow();
-    void assistiveTechnologySeesTheRows();
 
 private:
     void open(int rows);
@@ -257,28 +254,6 @@ void MenuRowsTest::refreshPaintsOneRow()
     QTRY_VERIFY(!watch.painted.isEmpty());
     QVERIFY(m_rows[1].view->geometry().contains(watch.painted.boundingRect()));
     QCOMPARE(m_menu->actionOf(*m_rows[1].view)->text(), QStringLiteral("R&&D, work"));
-}
-
-void MenuRowsTest::assistiveTechnologySeesTheRows()
-{
-    installMenuAccessibility();
-    open(2);
-    m_menu->addAction(QStringLiteral("Quit"));
-    QAccessibleInterface* const menu = QAccessible::queryAccessibleInterface(m_menu.get());
-    QCOMPARE(menu->childCount(), 5);
-    QAccessibleInterface* const row = menu->child(2);
-    QCOMPARE(row->text(QAccessible::Name), QStringLiteral("R&D, main"));
-    QCOMPARE(row->role(), QAccessible::MenuItem);
-    QCOMPARE(menu->indexOfChild(row), 2);
-    QCOMPARE(row->parent(), menu);
-    QAccessibleInterface* const button = row->child(0)->child(1);
-    QCOMPARE(button->text(QAccessible::Name), QStringLiteral("Refresh"));
-    QCOMPARE(row->child(1)->object(), m_rows[1].panel);
-    QCOMPARE(row->child(1)->parent(), row);
-    QCOMPARE(menu->child(4)->text(QAccessible::Name), QStringLiteral("Quit"));
-
-    row->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
-    QVERIFY(m_rows[1].panel->isVisible());
 }
 
 TARNWICK_TEST(MenuRowsTest)

@@ -4,8 +4,6 @@
 #include "views/symbols.h"
 
 #include <QFontMetrics>
-#include <QIcon>
-#include <QImage>
 #include <QRawFont>
 #include <QTest>
 
@@ -21,8 +19,6 @@ class StatusGlyphTest : public QObject
 private Q_SLOTS:
     void inkStandsOut_data();
     void inkStandsOut();
-    void iconIsDrawnInInk_data();
-    void iconIsDrawnInInk();
     void everySymbolIsInTheFont();
 };
 
@@ -42,33 +38,6 @@ void StatusGlyphTest::inkStandsOut()
 {
     QFETCH(QColor, panel);
     QTEST(statusGlyphColor(panel).lightness() > 128, "isLightInk");
-}
-
-void StatusGlyphTest::iconIsDrawnInInk_data()
-{
-    QTest::addColumn<int>("size");
-    for (const int size : {16, 22, 48})
-        QTest::addRow("%d", size) << size;
-}
-
-void StatusGlyphTest::iconIsDrawnInInk()
-{
-    QFETCH(int, size);
-    const QColor ink(10, 200, 30);
-    const QImage image = statusGlyphIcon(ink).pixmap(size, size).toImage();
-    QCOMPARE(image.size(), QSize(size, size));
-    int inked = 0;
-    for (int y = 0; y < size; ++y) {
-        for (int x = 0; x < size; ++x) {
-            const QColor pixel = image.pixelColor(x, y);
-            if (pixel.alpha() < 200)
-                continue;
-            ++inked;
-            QVERIFY(std::abs(pixel.hue() - ink.hue()) < 5);
-        }
-    }
-    QVERIFY(inked > size * size / 10 && inked < size * size / 2);
-    QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
 }
 
 void StatusGlyphTest::everySymbolIsInTheFont()

@@ -10,7 +10,7 @@ import re
 import sys
 
 ROOMS = ["platform", "model", "views", "settings", "shell"]
-SOURCE = pathlib.Path(__file__).resolve().parents[2] / "src"
+SOURCE = pathlib.Path(__file__).resolve().parents[1] / "src"
 
 
 def upward_includes(path, text):
