@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "shell/status_glyph.h"
 #include "support/test_registry.h"
 #include "views/symbols.h"
 
@@ -12,35 +11,15 @@
 using namespace tarnwick;
 using namespace std::string_view_literals;
 
-class StatusGlyphTest : public QObject
+class SymbolsTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void inkStandsOut_data();
-    void inkStandsOut();
     void everySymbolIsInTheFont();
 };
 
-void StatusGlyphTest::inkStandsOut_data()
-{
-    QTest::addColumn<QColor>("panel");
-    QTest::addColumn<bool>("isLightInk");
-    QTest::newRow("white") << QColor(Qt::white) << false;
-    QTest::newRow("light grey") << QColor(0xf6, 0xf5, 0xf4) << false;
-    QTest::newRow("sky") << QColor(0x8a, 0xb4, 0xe8) << false;
-    QTest::newRow("deep blue") << QColor(0x1d, 0x3a, 0x8a) << true;
-    QTest::newRow("dark grey") << QColor(0x35, 0x35, 0x35) << true;
-    QTest::newRow("black") << QColor(Qt::black) << true;
-}
-
-void StatusGlyphTest::inkStandsOut()
-{
-    QFETCH(QColor, panel);
-    QTEST(statusGlyphColor(panel).lightness() > 128, "isLightInk");
-}
-
-void StatusGlyphTest::everySymbolIsInTheFont()
+void SymbolsTest::everySymbolIsInTheFont()
 {
     const QRawFont font = QRawFont::fromFont(QFont(symbolFontFamily()));
     QCOMPARE(font.familyName(), symbolFontFamily());
@@ -58,6 +37,6 @@ void StatusGlyphTest::everySymbolIsInTheFont()
              QFontMetrics(QFont()).horizontalAdvance(u"letters"_qs));
 }
 
-TARNWICK_TEST(StatusGlyphTest)
+TARNWICK_TEST(SymbolsTest)
 
-#include "status_glyph_test.moc"
+#include "symbols_test.moc"

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "model/background_queue.h"
+#include "model/command_runner.h"
+#include "model/preferences_store.h"
+#include "model/repo_manager.h"
+#include "platform/platform.h"
+#include "platform/tray_host.h"
+#include "shell/app_delegate.h"
+#include "shell/application_menu.h"
+#include "shell/menu/status_menu.h"
+#include "shell/status_item.h"
+#include "support/test_registry.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace tarnwick;
+
+namespace {
+
+struct NoTrayHost : TrayHost
+{
+    [[nodiscard]] bool available() const override { return false; }
+    [[nodiscard]] std::optional<QColor> panelColor(const QRect&) const override { return {}; }
+};
+
+QList<bool> menusVisible()
+{
+    QList<bool> visible;
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        if (qobject_cast<const StatusMenu*>(widget))
+            visible += widget->isVisible();
+    }
+    return visible;
+}
+
+} // namespace
+
+class AppDelegateTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rebuildReplacesTheMenuAsAWhole();
+};
+
+void AppDelegateTest::rebuildReplacesTheMenuAsAWhole()
+{
+    const QTemporaryDir folder;
+    Platform platform;
+    platform.trayHost = std::make_unique<NoTrayHost>();
+    PreferencesStore store(folder.filePath(u"preferences.json"_qs));
+    store.setObject(u"/nonexistent/a"_qs, u"repos"_qs);
+    const CommandRunner runner{{}};
+    BackgroundQueue queue;
+    AppDelegate delegate(platform, store, {runner, queue});
+    QVERIFY(!AppDelegate::shared());
+    delegate.applicationDidFinishLaunching();
+    QCOMPARE(AppDelegate::shared(), &delegate);
+
+    Q_EMIT delegate.statusBarItem().triggered(QRect(600, 0, 24, 24));
+    QTRY_COMPARE(menusVisible(), QList{true});
+    delegate.repoManager().add(u"/nonexistent/b"_qs, nullptr);
+    QCOMPARE(delegate.appMenu().models().size(), 1);
+    rebuildMenu();
+    QCOMPARE(delegate.appMenu().models(), delegate.repoManager().models());
+    QCOMPARE(delegate.appMenu().models().size(), 2);
+    QTRY_COMPARE(menusVisible(), QList{false});
+}
+
+TARNWICK_TEST(AppDelegateTest)
+
+#include "app_delegate_test.moc"
