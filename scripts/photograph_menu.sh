@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # photograph_menu.sh PROGRAM FOLDER PNG: on the current display, starts PROGRAM with the preferences
-# in FOLDER/config, opens its menu by a click, waits until the screen is at rest and takes a picture.
+# in FOLDER/config, opens its menu by a click, waits until nothing turns in it any more and takes a
+# picture of the screen.
 set -euo pipefail
 scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 program=$1 folder=$2 output=$3
@@ -15,32 +16,44 @@ give_up() {
     tail -n 20 "$folder/program.log" >&2
     exit 70
 }
-take_picture() { import -window root "png:$1"; }
-checksum() { take_picture "$folder/now.png" && convert "$folder/now.png" rgb:- | md5sum; }
 
-wait_until_at_rest() {
-    local before='' now
-    for ((i = 0; i < 40; i++)); do
-        now=$(checksum)
-        [[ $now == "$before" ]] && return
-        before=$now
-        sleep 0.4
+# wait_for VARIABLE COMMAND...: repeats the command until it succeeds and keeps what it prints.
+wait_for() {
+    local -n answer=$1
+    local deadline=$((SECONDS + 60))
+    until answer=$("${@:2}"); do
+        kill -0 "$pid" 2>/dev/null || give_up "the program ended"
+        ((SECONDS < deadline)) || give_up "waited a minute for: ${*:2}"
+        sleep 0.2
     done
 }
 
-for ((i = 0; i < 100; i++)); do
-    position=$("$scripts/status_item_position.sh") && break
-    kill -0 "$pid" 2>/dev/null || give_up "the program ended"
-    sleep 0.2
-done
-[[ -n ${position-} ]] || give_up "no item appeared in the status bar"
-wait_until_at_rest
-closed=$(checksum)
-for ((i = 0; i < 5; i++)); do
-    # shellcheck disable=SC2086 # two numbers
-    xdotool mousemove $position click 1
-    wait_until_at_rest
-    [[ $(checksum) != "$closed" ]] && break
-done
-[[ $(checksum) != "$closed" ]] || give_up "the menu did not open"
-take_picture "$output"
+# A panel that has just started still moves its plugins.
+item_at_rest() {
+    local here
+    here=$("$scripts/status_item_position.sh") && sleep 0.4 &&
+        [[ $("$scripts/status_item_position.sh") == "$here" ]] && echo "$here"
+}
+
+# Beside the menu, only the icon in an XEmbed tray is a visible window of the program.
+open_menu() {
+    local window WINDOW X Y WIDTH HEIGHT SCREEN
+    for window in $(xdotool search --onlyvisible --classname '^tarnwick$' 2>/dev/null); do
+        eval "$(xdotool getwindowgeometry --shell "$window" 2>/dev/null)"
+        ((WIDTH > 100)) && echo "$window" && return
+    done
+    return 1
+}
+
+menu_at_rest() {
+    local before
+    before=$(import -window "$1" rgb:- | md5sum) && sleep 0.4 &&
+        [[ $(import -window "$1" rgb:- | md5sum) == "$before" ]]
+}
+
+wait_for position item_at_rest
+# shellcheck disable=SC2086 # two numbers
+xdotool mousemove $position click 1
+wait_for menu open_menu
+wait_for nothing menu_at_rest "$menu"
+import -window root "png:$output"
