@@ -6,6 +6,7 @@ list=$(dirname "${BASH_SOURCE[0]}")/packages.list
 
 wanted=()
 for group in "$@"; do
+    grep -q "^$group " "$list" || { echo "install_packages.sh: no group '$group'" >&2; exit 64; }
     mapfile -t -O "${#wanted[@]}" wanted < <(awk -v group="$group" '$1 == group {print $2}' "$list")
 done
 ((${#wanted[@]})) || { echo "usage: install_packages.sh build|run|desktop|test..." >&2; exit 64; }

@@ -88,7 +88,9 @@ enter_private_environment() {
     export XDG_STATE_HOME=$home/.local/state XDG_RUNTIME_DIR=$home/.runtime
     export XDG_CONFIG_DIRS=/etc/xdg XDG_DATA_DIRS=/usr/local/share:/usr/share
     export XDG_CURRENT_DESKTOP=XFCE XDG_SESSION_TYPE=x11 TARNWICK_DESKTOP_SCALE=$scale
-    mkdir -p "$logs" "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_CACHE_HOME" "$XDG_STATE_HOME"
+    # What a program leaves in its temporary folder when it is killed goes with the desktop.
+    export TMPDIR=$home/tmp
+    mkdir -p "$TMPDIR" "$logs" "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_CACHE_HOME" "$XDG_STATE_HOME"
     mkdir -m 700 "$XDG_RUNTIME_DIR"
 }
 
@@ -97,7 +99,8 @@ start_desktop() {
     start_and_read Xvfb -displayfd 3 -screen 0 "${width}x${height}x24" -dpi $((96 * scale)) \
         -nolisten tcp -noreset
     export DISPLAY=:$answer
-    start_and_read dbus-daemon --session --nofork --print-address=3
+    start_and_read dbus-daemon --session --nofork --print-address=3 \
+        --address="unix:path=$XDG_RUNTIME_DIR/bus"
     export DBUS_SESSION_BUS_ADDRESS=$answer
     "$scripts/desktop_theme.sh" "$theme"
     start xsettingsd
