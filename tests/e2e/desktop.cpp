@@ -58,13 +58,6 @@ qsizetype RunningProgram::printedCount(const QString& start)
         .size();
 }
 
-QJsonObject RunningProgram::preferences() const
-{
-    QFile file(m_configHome.filePath(u"tarnwick/preferences.json"_qs));
-    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object()
-                                          : QJsonObject();
-}
-
 QPoint statusItemPosition()
 {
     const QStringList parts = runScript(u"status_item_position.sh"_qs).simplified().split(u' ');

@@ -3,11 +3,7 @@
 
 #include <QImage>
 #include <QJsonObject>
-#include <QList>
-#include <QPoint>
 #include <QProcess>
-#include <QRect>
-#include <QStringList>
 #include <QTemporaryDir>
 
 namespace tarnwick::test {
@@ -31,7 +27,6 @@ public:
     /// What it has printed so far.
     [[nodiscard]] QStringList printedLines();
     [[nodiscard]] qsizetype printedCount(const QString& start);
-    [[nodiscard]] QJsonObject preferences() const;
 
 private:
     QTemporaryDir m_configHome;

@@ -34,6 +34,10 @@ void LateHostE2eTest::itemAppearsWithTheHost()
     QProcess panel;
     panel.start(QStringLiteral(TARNWICK_SCRIPTS "/tray_host.sh"), {host});
     QVERIFY(openMenu());
+    const QString advice =
+        u"Open the settings (the gear) and add some repositories to get started!"_qs;
+    QCOMPARE(menuRows(), QStringList{advice});
+    QCOMPARE(accessibleNamed(advice).area.height(), 140);
     key(u"Escape"_qs);
     panel.terminate();
     panel.waitForFinished();

@@ -48,8 +48,6 @@ void GitStatusTest::summary_data()
     row("more blanks after ahead", u"## m [ahead  2]\n"_qs, u" 2~ahead"_qs);
     row("gone upstream", u"## main...origin/main [gone]\n"_qs, {});
     row("conflict", header + u"UU a\nAA b\n"_qs, {});
-    row("upper case is another word", u"## m [Ahead 2]\n"_qs, {});
-    row("code deeper in a line", header + u"R  A  x -> ?? y\n"_qs, {});
 }
 
 void GitStatusTest::summary()

@@ -5,7 +5,6 @@
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 
-#include <QImage>
 #include <QTest>
 
 using namespace tarnwick;
@@ -25,7 +24,6 @@ private Q_SLOTS:
     void namesThePathsOfOddFolders();
     void plainFolderRunsNoGit();
     void staysWhatItWasAtCreation();
-    void loadsItsLogo();
 
 private:
     [[nodiscard]] std::shared_ptr<RepoViewModel> record(const QString& dir)
@@ -172,17 +170,6 @@ void RepositoryTest::staysWhatItWasAtCreation()
     QTRY_COMPARE(watched->branchString(), QString());
     QTRY_VERIFY(!watched->statusString());
     QVERIFY(watched->isRepo());
-}
-
-void RepositoryTest::loadsItsLogo()
-{
-    const TemporaryRepository repository;
-    QVERIFY(!record(repository.dir())->logo());
-    repository.write(u"TarnwickLogo.png"_qs, "no picture");
-    QVERIFY(!record(repository.dir())->logo());
-    QImage picture(3, 5, QImage::Format_RGB32);
-    QVERIFY(picture.save(repository.dir() + u"/TarnwickLogo.png"_qs));
-    QCOMPARE(record(repository.dir())->logo().value().size(), QSize(3, 5));
 }
 
 TARNWICK_TEST(RepositoryTest)

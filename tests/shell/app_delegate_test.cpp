@@ -25,14 +25,12 @@ struct NoTrayHost : TrayHost
     [[nodiscard]] std::optional<QColor> panelColor(const QRect&) const override { return {}; }
 };
 
-QList<bool> menusVisible()
+int menusVisible()
 {
-    QList<bool> visible;
-    for (const QWidget* widget : QApplication::topLevelWidgets()) {
-        if (qobject_cast<const StatusMenu*>(widget))
-            visible += widget->isVisible();
-    }
-    return visible;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    return static_cast<int>(std::count_if(widgets.begin(), widgets.end(), [](auto* widget) {
+        return qobject_cast<StatusMenu*>(widget) && widget->isVisible();
+    }));
 }
 
 } // namespace
@@ -60,13 +58,13 @@ void AppDelegateTest::rebuildReplacesTheMenuAsAWhole()
     QCOMPARE(AppDelegate::shared(), &delegate);
 
     Q_EMIT delegate.statusBarItem().triggered(QRect(600, 0, 24, 24));
-    QTRY_COMPARE(menusVisible(), QList{true});
+    QTRY_COMPARE(menusVisible(), 1);
     delegate.repoManager().add(u"/nonexistent/b"_qs, nullptr);
     QCOMPARE(delegate.appMenu().models().size(), 1);
     rebuildMenu();
     QCOMPARE(delegate.appMenu().models(), delegate.repoManager().models());
     QCOMPARE(delegate.appMenu().models().size(), 2);
-    QTRY_COMPARE(menusVisible(), QList{false});
+    QTRY_COMPARE(menusVisible(), 0);
 }
 
 TARNWICK_TEST(AppDelegateTest)

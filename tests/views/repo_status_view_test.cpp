@@ -7,7 +7,6 @@
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 #include "views/colors.h"
-#include "views/empty_state_view.h"
 #include "views/repo_status_view.h"
 #include "views/spinner.h"
 #include "views/text_line.h"
@@ -56,7 +55,6 @@ private Q_SLOTS:
     void optionsApplyAtOnce();
     void longTextsStayInside();
     void logoReplacesTheFolder();
-    void emptyState();
 
 private:
     [[nodiscard]] std::unique_ptr<RepoStatusView> shownRow(const QString& dir)
@@ -155,17 +153,8 @@ void RepoStatusViewTest::logoReplacesTheFolder()
     for (const QPoint corner : {QPoint(20, top), QPoint(35, top + 14)})
         QCOMPARE(shown.pixelColor(corner), QColor(12, 34, 56));
     QVERIFY(shown.pixelColor(36, top) != QColor(12, 34, 56));
-}
-
-void RepoStatusViewTest::emptyState()
-{
-    EmptyStateView view;
-    view.resize(view.sizeHint());
-    view.show();
-    QCOMPARE(view.findChild<TextLine*>()->text(),
-             u"Open the settings (\U001008CC) and add some repositories to get started!"_qs);
-    QCOMPARE(view.height(), 140);
-    QVERIFY(view.width() <= 300);
+    repository.write(u"TarnwickLogo.png"_qs, "no picture");
+    QVERIFY(!RepoViewModel::create(repository.dir(), nullptr, {m_runner, m_queue})->logo());
 }
 
 TARNWICK_TEST(RepoStatusViewTest)
