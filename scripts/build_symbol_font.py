@@ -27,13 +27,17 @@ FIRST_NAMED = 0x10F000
 
 def read_table(path):
     with open(path, newline="", encoding="utf-8") as file:
-        rows = [(int(row["codepoint"], 16), row["name"], path.parent / row["outline"])
-                for row in csv.DictReader(file)]
-    for column, what in ((0, "code point"), (1, "name")):
-        values = [(row[column], row[0] >= FIRST_NAMED) if column else row[column] for row in rows]
-        twice = [value for value in values if values.count(value) > 1]
-        if twice:
-            sys.exit(f"{path}: {what} {twice[0]} stands in two rows")
+        try:
+            rows = [(int(row["codepoint"], 16), row["name"], path.parent / row["outline"])
+                    for row in csv.DictReader(file)]
+        except (KeyError, TypeError, ValueError) as error:
+            sys.exit(f"{path}: a row is not codepoint,name,outline: {error}")
+    # A glyph and a named symbol may share a name, they are asked for in different ways.
+    for what, values in (("code point", [f"{code:X}" for code, _, _ in rows]),
+                         ("name", [(name, code >= FIRST_NAMED) for code, name, _ in rows])):
+        for value in values:
+            if values.count(value) > 1:
+                sys.exit(f"{path}: the {what} {value} stands in two rows")
     return sorted(rows)
 
 
@@ -41,10 +45,9 @@ def draw(outline):
     glyph_pen = TTGlyphPen(None)
     quadratic = Cu2QuPen(glyph_pen, max_err=EM / 1000, reverse_direction=True)
     onto_baseline = (SCALE, 0, 0, -SCALE, 0, MIDDLE + GRID / 2 * SCALE)
-    try:
-        SVGPath(str(outline)).draw(TransformPen(quadratic, onto_baseline))
-    except OSError as error:
-        sys.exit(f"{outline}: {error.strerror}")
+    if not outline.is_file():
+        sys.exit(f"{outline}: there is no such outline")
+    SVGPath(str(outline)).draw(TransformPen(quadratic, onto_baseline))
     glyph = glyph_pen.glyph()
     if glyph.numberOfContours == 0:
         sys.exit(f"{outline}: the outline is empty")

@@ -12,19 +12,20 @@ namespace {
 constexpr int spokes = 8;
 constexpr int stepMs = 90;
 constexpr qreal diameter = 12;
+constexpr QSize frame(20, 16);
 
 } // namespace
 
 Spinner::Spinner(QWidget* parent)
     : QWidget(parent)
 {
-    setFixedSize(sizeHint());
+    setFixedSize(frame);
     setAccessibleName(tr("Loading"));
 }
 
 QSize Spinner::sizeHint() const
 {
-    return {20, 16};
+    return frame;
 }
 
 void Spinner::hideEvent(QHideEvent* /*event*/)

@@ -2,6 +2,7 @@
 #include "views/symbols.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QStringList>
 
 #include <algorithm>
@@ -30,10 +31,14 @@ QFont withSymbols(const QFont& interfaceFont)
 {
     // The symbols stand second: were they first, letters would fall back to any other font.
     QStringList families = interfaceFont.families();
+    if (families.isEmpty())
+        families.append(QFontInfo(interfaceFont).family());
     if (!families.contains(symbolFontFamily()))
         families.append(symbolFontFamily());
     QFont font = interfaceFont;
     font.setFamilies(families);
+    font.setStyleStrategy(
+        static_cast<QFont::StyleStrategy>(font.styleStrategy() & ~QFont::NoFontMerging));
     return font;
 }
 
