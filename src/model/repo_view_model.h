@@ -15,8 +15,8 @@ namespace tarnwick {
 class BackgroundQueue;
 class CommandRunner;
 
-/// Whoever shows the records and acts for them. What a record's views ask of it is declared here
-/// and implemented above.
+/// Whoever shows the records and acts for them. What a record's views will ask of it, such as
+/// opening a window of their own, is declared here and implemented above.
 class RepoViewModelDelegate
 {
 public:

@@ -39,6 +39,7 @@ void AppDelegate::applicationDidFinishLaunching()
     sharedDelegate = this;
     makeStatusItem();
     rebuildMenu();
+    // Starting at login will be seen to here, last.
 }
 
 void AppDelegate::menuWillOpen()

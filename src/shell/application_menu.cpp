@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/application_menu.h"
 
+#include "model/diagnostics.h"
 #include "model/preference_keys.h"
 #include "model/preferences_store.h"
 #include "model/repo_manager.h"
@@ -34,6 +35,7 @@ std::unique_ptr<StatusMenu> ApplicationMenu::buildMenu(const RepoManager& reposi
     m_models = repositories.models();
 
     auto menu = std::make_unique<StatusMenu>();
+    // The row of global controls will stand here, with a separator below it.
     if (m_models.empty())
         addEmptyStateItem(*menu);
     for (const auto& record : m_models)
@@ -52,6 +54,11 @@ void ApplicationMenu::refreshIfEnabled()
         refreshAll(m_models);
 }
 
+void ApplicationMenu::addd()
+{
+    writeDiagnosticLine(QStringLiteral("asd"));
+}
+
 void ApplicationMenu::addRepositoryItem(const std::shared_ptr<RepoViewModel>& record,
                                         StatusMenu& menu) const
 {
@@ -60,6 +67,7 @@ void ApplicationMenu::addRepositoryItem(const std::shared_ptr<RepoViewModel>& re
     row->setText(status->text());
     connect(status, &RepoStatusView::textChanged, row,
             [status, row] { row->setText(status->text()); });
+    // The repository's panel will be this action's menu.
     menu.addHostedRow(row);
     menu.addSeparator();
 }

@@ -34,6 +34,9 @@ public:
     void refreshOnOpen();
     void refreshIfEnabled();
 
+    /// Writes "asd" to standard output: tells whether an action reaches this object.
+    void addd();
+
     /// Lets go of the records, which hold this object.
     void releaseModels() { m_models.clear(); }
 
