@@ -52,7 +52,7 @@ public:
         state.focusable = !action()->isSeparator();
         state.focused = menu->hasFocus() && menu->activeAction() == action();
         state.disabled = !action()->isEnabled();
-        state.invisible = !menu->isVisible() || !action()->isVisible();
+        state.invisible = !menu->isVisible() || menu->actionGeometry(action()).isEmpty();
         return state;
     }
 
