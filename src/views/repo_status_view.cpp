@@ -27,7 +27,7 @@ constexpr int nameLineHeight = 20;
 constexpr int branchFontSize = 13;
 constexpr int summaryFontSize = 14;
 
-/// Sizes are in pixels of a display at scale 1; no size means the interface font's own.
+/// Sizes are in pixels of a display at scale 1.
 QFont fontWithSymbols(const QFont& interfaceFont, int size)
 {
     QFont font = withSymbols(interfaceFont);
