@@ -3,6 +3,7 @@
 #include "model/command_runner.h"
 #include "model/preferences_store.h"
 #include "platform/platform.h"
+#include "platform/terminal_launcher.h"
 #include "platform/tray_host.h"
 #include "shell/app_delegate.h"
 #include "shell/menu/status_menu_accessible.h"
@@ -27,7 +28,7 @@ int main(int argc, char* argv[])
     CommandRunner runner({.open = platform.openProgram});
     BackgroundQueue queue;
 
-    AppDelegate delegate(platform, store, {runner, queue});
+    AppDelegate delegate(platform, store, {runner, queue, *platform.terminal, store});
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

@@ -14,20 +14,27 @@ namespace tarnwick {
 
 class BackgroundQueue;
 class CommandRunner;
+class PreferencesStore;
+class RepoViewModel;
+class TerminalLauncher;
 
-/// Whoever shows the records and acts for them. What a record's views will ask of it, such as
-/// opening a window of their own, is declared here and implemented above.
+/// Whoever shows the records and acts for them.
 class RepoViewModelDelegate
 {
 public:
     virtual ~RepoViewModelDelegate() = default;
+
+    /// Opens a window in which the links of the record's repository are edited.
+    virtual void openLinkEditor(const std::shared_ptr<RepoViewModel>& record) = 0;
 };
 
-/// What a record works with; both outlive every record.
+/// What a record works with; all of it outlives every record.
 struct RepoServices
 {
     const CommandRunner& runner;
     BackgroundQueue& queue;
+    TerminalLauncher& terminal;
+    const PreferencesStore& store;
 };
 
 /// One watched directory and what git last said about it.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/platform.h"
 
+#include "platform/application_folder.h"
+#include "platform/terminal_launcher.h"
 #include "platform/tray_host.h"
 
 namespace tarnwick {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QJsonObject>
 #include <QObject>
 #include <QString>
 
@@ -8,6 +9,8 @@
 
 namespace tarnwick {
 
+class ApplicationFolder;
+class TerminalLauncher;
 class TrayHost;
 
 /// The desktop that the program runs on: one implementation for each thing in which desktops
@@ -21,8 +24,14 @@ struct Platform
     std::unique_ptr<TrayHost> trayHost;
     /// Keeps the palette with the desktop's; nothing to call.
     std::unique_ptr<QObject> paletteFollower;
-    /// Absolute path of the program that opens a directory in an application.
+    std::unique_ptr<TerminalLauncher> terminal;
+    std::unique_ptr<ApplicationFolder> systemApplications;
+    std::unique_ptr<ApplicationFolder> userApplications;
+    /// Absolute path of the program that opens a directory in an application, or shows a file in
+    /// the file manager.
     QString openProgram;
+    /// What the packaging says about the program; empty where it says nothing that can be read.
+    QJsonObject bundleInfo;
 };
 
 /// What this build's system offers.

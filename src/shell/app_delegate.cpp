@@ -20,7 +20,7 @@ AppDelegate::AppDelegate(Platform& platform, PreferencesStore& store, RepoServic
     : m_platform(platform)
     , m_store(store)
     , m_services(services)
-    , m_appMenu(std::make_shared<ApplicationMenu>(store))
+    , m_appMenu(std::make_shared<ApplicationMenu>(platform, store, *this))
 {}
 
 AppDelegate::~AppDelegate()
@@ -75,6 +75,16 @@ void AppDelegate::rebuildMenu()
         // The request may come from within the old menu.
         menu.release()->deleteLater();
     }
+}
+
+void AppDelegate::setLaunchAtLogin(bool /*enabled*/)
+{
+    // Starting at login will be seen to here, too.
+}
+
+std::shared_ptr<RepoViewModelDelegate> AppDelegate::newRecordDelegate()
+{
+    return std::make_shared<ApplicationMenu>(m_platform, m_store, *this);
 }
 
 void AppDelegate::makeStatusItem()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/repo_view_model.h"
+#include "settings/settings_host.h"
 
 #include <QObject>
 
@@ -18,7 +19,7 @@ struct Platform;
 
 /// Owns what the program shows: the status item, the current menu and the repository list.
 /// One for the whole process, on the main thread.
-class AppDelegate : public QObject
+class AppDelegate : public QObject, public SettingsHost
 {
     Q_OBJECT
 
@@ -41,7 +42,9 @@ public:
     [[nodiscard]] RepoManager& repoManager();
 
     /// Builds a new menu and puts it in place of the current one, which closes.
-    void rebuildMenu();
+    void rebuildMenu() override;
+    void setLaunchAtLogin(bool enabled) override;
+    [[nodiscard]] std::shared_ptr<RepoViewModelDelegate> newRecordDelegate() override;
 
 private:
     void makeStatusItem();

@@ -5,6 +5,9 @@
 #include "model/preference_keys.h"
 #include "model/preferences_store.h"
 #include "model/repo_manager.h"
+#include "platform/platform.h"
+#include "settings/link_settings_view.h"
+#include "shell/content_window.h"
 #include "shell/menu/hosting_view.h"
 #include "shell/menu/status_menu.h"
 #include "views/empty_state_view.h"
@@ -25,8 +28,10 @@ constexpr auto refreshDelay = 200ms;
 
 } // namespace
 
-ApplicationMenu::ApplicationMenu(PreferencesStore& store)
-    : m_store(store)
+ApplicationMenu::ApplicationMenu(Platform& platform, PreferencesStore& store, SettingsHost& host)
+    : m_platform(platform)
+    , m_store(store)
+    , m_host(host)
 {}
 
 std::unique_ptr<StatusMenu> ApplicationMenu::buildMenu(const RepoManager& repositories)
@@ -41,6 +46,12 @@ std::unique_ptr<StatusMenu> ApplicationMenu::buildMenu(const RepoManager& reposi
     for (const auto& record : m_models)
         addRepositoryItem(record, *menu);
     return menu;
+}
+
+void ApplicationMenu::openLinkEditor(const std::shared_ptr<RepoViewModel>& record)
+{
+    showInWindow(std::make_unique<LinkSettingsView>(record, QString(), m_store, m_host),
+                 tr("Add links"));
 }
 
 void ApplicationMenu::refreshOnOpen()

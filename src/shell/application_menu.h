@@ -11,7 +11,9 @@ namespace tarnwick {
 
 class PreferencesStore;
 class RepoManager;
+class SettingsHost;
 class StatusMenu;
+struct Platform;
 
 /// Makes the status menu. A menu is built as a whole and never edited: when something structural
 /// changes, a new one replaces it. Main thread only.
@@ -20,7 +22,8 @@ class ApplicationMenu : public QObject, public RepoViewModelDelegate
     Q_OBJECT
 
 public:
-    explicit ApplicationMenu(PreferencesStore& store);
+    /// What it is given outlives it.
+    ApplicationMenu(Platform& platform, PreferencesStore& store, SettingsHost& host);
 
     /// The records of the menu built last; a refresh works on these, not on the live list.
     [[nodiscard]] const RepoViewModels& models() const { return m_models; }
@@ -28,6 +31,8 @@ public:
     /// Writes the first-run defaults into a fresh store, takes the list's records as they are now
     /// and makes a row for each.
     [[nodiscard]] std::unique_ptr<StatusMenu> buildMenu(const RepoManager& repositories);
+
+    void openLinkEditor(const std::shared_ptr<RepoViewModel>& record) override;
 
     /// Called when the menu is about to open: refreshes a moment later if the user wants that, and
     /// does not keep the menu waiting.
@@ -44,7 +49,9 @@ private:
     void addRepositoryItem(const std::shared_ptr<RepoViewModel>& record, StatusMenu& menu) const;
     void addEmptyStateItem(StatusMenu& menu) const;
 
+    Platform& m_platform;
     PreferencesStore& m_store;
+    SettingsHost& m_host;
     RepoViewModels m_models;
 };
 

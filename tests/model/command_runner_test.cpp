@@ -7,6 +7,7 @@
 #include "support/stops_process.h"
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
+#include "support/workbench.h"
 
 #include <QSemaphore>
 #include <QTest>
@@ -52,8 +53,10 @@ private Q_SLOTS:
 private:
     const CommandRunner m_shell{{.git = u"/bin/sh"_qs, .open = u"/bin/sh"_qs}};
     BackgroundQueue m_queue;
+    RecordingTerminal m_terminal;
+    const PreferencesStore m_store{u"/nonexistent/preferences.json"_qs};
     const std::shared_ptr<RepoViewModel> m_record =
-        RepoViewModel::create(u"/nonexistent"_qs, nullptr, {m_shell, m_queue});
+        RepoViewModel::create(u"/nonexistent"_qs, nullptr, {m_shell, m_queue, m_terminal, m_store});
 };
 
 void CommandRunnerTest::deliversOnTheMainThread_data()
@@ -144,7 +147,8 @@ void CommandRunnerTest::stops_data()
     row("list without a delegate", [this] {
         PreferencesStore store(u"/nonexistent/preferences.json"_qs);
         store.setObject(u"/a"_qs, u"repos"_qs);
-        const RepoManager list(store, {m_shell, m_queue}, [] { return nullptr; });
+        const RepoManager list(store, {m_shell, m_queue, m_terminal, store},
+                               [] { return nullptr; });
     });
 }
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "model/background_queue.h"
 #include "model/bound_setting.h"
-#include "model/command_runner.h"
 #include "model/preferences_store.h"
 #include "model/repo_manager.h"
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
+#include "support/workbench.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -20,7 +19,9 @@ using namespace tarnwick::test;
 namespace {
 
 struct Delegate : RepoViewModelDelegate
-{};
+{
+    void openLinkEditor(const std::shared_ptr<RepoViewModel>&) override {}
+};
 
 } // namespace
 
@@ -44,7 +45,7 @@ private Q_SLOTS:
 private:
     [[nodiscard]] RepoManager manager(PreferencesStore& store)
     {
-        return {store, {m_runner, m_queue}, [] { return std::make_shared<Delegate>(); }};
+        return {store, m_bench.services(), [] { return std::make_shared<Delegate>(); }};
     }
     [[nodiscard]] static QStringList dirs(const RepoManager& manager)
     {
@@ -54,8 +55,7 @@ private:
         return dirs;
     }
 
-    const CommandRunner m_runner{{}};
-    BackgroundQueue m_queue;
+    Workbench m_bench;
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
 };

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "model/background_queue.h"
-#include "model/command_runner.h"
-#include "model/repo_view_model.h"
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
+#include "support/workbench.h"
 
 #include <QTest>
 
@@ -28,7 +26,7 @@ private Q_SLOTS:
 private:
     [[nodiscard]] std::shared_ptr<RepoViewModel> record(const QString& dir)
     {
-        return RepoViewModel::create(dir, nullptr, {m_runner, m_queue});
+        return m_bench.record(dir);
     }
     /// The branch and the summary, once both queries have ended.
     QString settled(const RepoViewModel& record)
@@ -39,8 +37,7 @@ private:
                record.statusString().value_or(u"clean"_qs).replace(QChar::Nbsp, u' ');
     }
 
-    const CommandRunner m_runner{{}};
-    BackgroundQueue m_queue;
+    Workbench m_bench;
 };
 
 void RepositoryTest::readsRealRepositories_data()
@@ -142,7 +139,8 @@ void RepositoryTest::plainFolderRunsNoGit()
     const QTemporaryDir folder;
     // A record that ran this git would end the process.
     const CommandRunner noGit{{.git = u"/nonexistent/git"_qs}};
-    const auto plain = RepoViewModel::create(folder.path(), nullptr, {noGit, m_queue});
+    const auto plain = RepoViewModel::create(
+        folder.path(), nullptr, {noGit, m_bench.queue, m_bench.terminal, m_bench.store});
     refreshAll({plain});
     QVERIFY(!plain->isRepo());
     QVERIFY(!plain->statusString() && !plain->branchString() && !plain->isLoading());

@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "model/background_queue.h"
-#include "model/command_runner.h"
-#include "model/preferences_store.h"
 #include "model/repo_manager.h"
 #include "platform/platform.h"
 #include "platform/tray_host.h"
@@ -10,12 +7,13 @@
 #include "shell/menu/status_menu.h"
 #include "shell/status_item.h"
 #include "support/test_registry.h"
+#include "support/workbench.h"
 
 #include <QApplication>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace tarnwick;
+using namespace tarnwick::test;
 
 namespace {
 
@@ -45,14 +43,11 @@ private Q_SLOTS:
 
 void AppDelegateTest::rebuildReplacesTheMenuAsAWhole()
 {
-    const QTemporaryDir folder;
     Platform platform;
     platform.trayHost = std::make_unique<NoTrayHost>();
-    PreferencesStore store(folder.filePath(u"preferences.json"_qs));
-    store.setObject(u"/nonexistent/a"_qs, u"repos"_qs);
-    const CommandRunner runner{{}};
-    BackgroundQueue queue;
-    AppDelegate delegate(platform, store, {runner, queue});
+    Workbench bench;
+    bench.store.setObject(u"/nonexistent/a"_qs, u"repos"_qs);
+    AppDelegate delegate(platform, bench.store, bench.services());
     QVERIFY(!AppDelegate::shared());
     delegate.applicationDidFinishLaunching();
     QCOMPARE(AppDelegate::shared(), &delegate);

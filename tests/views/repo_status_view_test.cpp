@@ -6,6 +6,7 @@
 #include "support/pixels.h"
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
+#include "support/workbench.h"
 #include "views/colors.h"
 #include "views/repo_status_view.h"
 #include "views/spinner.h"
@@ -59,15 +60,14 @@ private Q_SLOTS:
 private:
     [[nodiscard]] std::unique_ptr<RepoStatusView> shownRow(const QString& dir)
     {
-        m_record = RepoViewModel::create(dir, nullptr, {m_runner, m_queue});
+        m_record = m_bench.record(dir);
         auto row = std::make_unique<RepoStatusView>(m_record, *m_store);
         row->setPalette(QPalette(QColor(240, 240, 240)));
         row->show();
         return row;
     }
 
-    const CommandRunner m_runner{{}};
-    BackgroundQueue m_queue;
+    Workbench m_bench;
     QTemporaryDir m_folder;
     std::unique_ptr<PreferencesStore> m_store;
     std::shared_ptr<RepoViewModel> m_record;
@@ -154,7 +154,7 @@ void RepoStatusViewTest::logoReplacesTheFolder()
         QCOMPARE(shown.pixelColor(corner), QColor(12, 34, 56));
     QVERIFY(shown.pixelColor(36, top) != QColor(12, 34, 56));
     repository.write(u"TarnwickLogo.png"_qs, "no picture");
-    QVERIFY(!RepoViewModel::create(repository.dir(), nullptr, {m_runner, m_queue})->logo());
+    QVERIFY(!m_bench.record(repository.dir())->logo());
 }
 
 TARNWICK_TEST(RepoStatusViewTest)

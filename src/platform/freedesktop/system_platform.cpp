@@ -1,20 +1,48 @@
 // SPDX-License-Identifier: MIT
+#include "platform/application_folder.h"
 #include "platform/freedesktop/palette_follower.h"
 #include "platform/freedesktop/tray_host.h"
 #include "platform/platform.h"
+#include "platform/terminal_launcher.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QJsonDocument>
 
 namespace tarnwick {
+
+namespace {
+
+/// A path below the prefix that the program is installed under.
+QString installed(const QString& path)
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../") + path);
+}
+
+struct NoTerminal : TerminalLauncher
+{
+    void open(const TerminalRequest&) override {}
+};
+
+QJsonObject readBundleInfo()
+{
+    QFile file(installed(QStringLiteral("share/tarnwick/Info.json")));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QJsonDocument::fromJson(file.readAll()).object();
+}
+
+} // namespace
 
 Platform systemPlatform()
 {
     Platform platform;
     platform.trayHost = std::make_unique<FreedesktopTrayHost>();
     platform.paletteFollower = std::make_unique<PaletteFollower>();
-    platform.openProgram = QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                                           QStringLiteral("/../libexec/tarnwick/open"));
+    platform.terminal = std::make_unique<NoTerminal>();
+    platform.openProgram = installed(QStringLiteral("libexec/tarnwick/open"));
+    platform.bundleInfo = readBundleInfo();
     return platform;
 }
 
