@@ -81,4 +81,9 @@ void CommandRunner::runOpen(const QStringList& arguments) const
     open.waitForFinished(noTimeout);
 }
 
+void revealInFinder(const QString& path, const CommandRunner& runner)
+{
+    runner.runOpen({QStringLiteral("--reveal"), path});
+}
+
 } // namespace tarnwick

@@ -49,4 +49,7 @@ private:
     Programs m_programs;
 };
 
+/// Blocks until the file manager has been asked to show the file or folder, selected.
+void revealInFinder(const QString& path, const CommandRunner& runner);
+
 } // namespace tarnwick

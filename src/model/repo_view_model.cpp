@@ -5,6 +5,10 @@
 #include "model/command_runner.h"
 #include "model/diagnostics.h"
 #include "model/git_status.h"
+#include "model/preference_keys.h"
+#include "model/preferences_store.h"
+#include "model/remote_address.h"
+#include "model/terminal_request.h"
 
 #include <QFileInfo>
 #include <QThread>
@@ -66,6 +70,8 @@ void RepoViewModel::startQueries()
     setIsRepo(true);
     refreshStatusInBackground();
     refreshBranch();
+    if (m_isRepo)
+        refreshRemoteUrl();
 }
 
 void RepoViewModel::refreshBranch()
@@ -77,6 +83,16 @@ void RepoViewModel::refreshBranch()
                               QStringLiteral("--abbrev-ref"), QStringLiteral("HEAD")},
                              shared_from_this(), [](const QString& output, RepoViewModel& record) {
                                  record.setBranchString(QString(output).remove(u'\n'));
+                             });
+}
+
+void RepoViewModel::refreshRemoteUrl()
+{
+    m_services.runner.runGit({QStringLiteral("-C"), m_dir, QStringLiteral("config"),
+                              QStringLiteral("--get"), QStringLiteral("remote.origin.url")},
+                             shared_from_this(), [](const QString& output, RepoViewModel& record) {
+                                 if (auto address = remoteWebAddress(output))
+                                     record.setRemoteUrl(*std::move(address));
                              });
 }
 
@@ -151,6 +167,42 @@ QStringList RepoViewModel::changedFiles() const
     return m_gitStatus ? tarnwick::changedFiles(*m_gitStatus) : QStringList();
 }
 
+void RepoViewModel::push() const
+{
+    m_services.terminal.open(terminalRequest(m_dir, QStringLiteral("push")));
+}
+
+void RepoViewModel::pull() const
+{
+    m_services.terminal.open(terminalRequest(m_dir, QStringLiteral("pull")));
+}
+
+void RepoViewModel::stash() const
+{
+    m_services.terminal.open(terminalRequest(m_dir, QStringLiteral("stash")));
+}
+
+void RepoViewModel::startTerminal() const
+{
+    m_services.terminal.open(terminalRequest(m_dir, {}));
+}
+
+void RepoViewModel::openInApp(const QString& name) const
+{
+    m_services.runner.runOpen({QStringLiteral("-a"), name, m_dir});
+}
+
+QList<RepoViewModel::PP> RepoViewModel::projectFiles() const
+{
+    return tarnwick::projectFiles(m_dir);
+}
+
+QList<RepoLink> RepoViewModel::links() const
+{
+    return parseRepoLinks(
+        m_services.store.stringForKey(preferences::linksKey(m_name)).value_or(QString()));
+}
+
 bool RepoViewModel::isMainBranch() const
 {
     return m_branchString == QStringLiteral("master") ||
@@ -179,6 +231,12 @@ void RepoViewModel::setBranchString(QString branchString)
 {
     m_branchString = std::move(branchString);
     Q_EMIT branchStringChanged();
+}
+
+void RepoViewModel::setRemoteUrl(QString remoteUrl)
+{
+    m_remoteUrl = std::move(remoteUrl);
+    Q_EMIT remoteUrlChanged();
 }
 
 void refreshAll(const RepoViewModels& models)

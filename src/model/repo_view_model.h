@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/project_files.h"
+#include "model/repo_link.h"
+
 #include <QImage>
 #include <QObject>
 #include <QString>
@@ -48,8 +51,11 @@ class RepoViewModel : public QObject, public std::enable_shared_from_this<RepoVi
     Q_OBJECT
 
 public:
-    /// Looks once for a ".git" entry. With one, blocks for a git run (the branch) and starts
-    /// another in the background (the status); without one, no git ever runs for this record.
+    using PP = ProjectFile;
+
+    /// Looks once for a ".git" entry. With one, blocks for two git runs (branch and remote) and
+    /// starts another in the background (the status); without one, no git ever runs for this
+    /// record.
     [[nodiscard]] static std::shared_ptr<RepoViewModel>
     create(QString dir, std::shared_ptr<RepoViewModelDelegate> delegate, RepoServices services);
 
@@ -67,6 +73,8 @@ public:
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
     [[nodiscard]] const std::optional<QString>& statusString() const { return m_statusString; }
     [[nodiscard]] const std::optional<QString>& branchString() const { return m_branchString; }
+    /// The repository's page in the web; not necessarily a valid address. Learnt once, at creation.
+    [[nodiscard]] const std::optional<QString>& remoteUrl() const { return m_remoteUrl; }
     /// The whole output of the last status query.
     [[nodiscard]] const std::optional<QString>& gitStatus() const { return m_gitStatus; }
 
@@ -90,6 +98,21 @@ public:
     /// Whether the branch is a main line of development, by its name.
     [[nodiscard]] bool isMainBranch() const;
 
+    // Each opens a new terminal window in the directory and returns at once; git runs there, where
+    // the user sees it and can answer it.
+    void push() const;
+    void pull() const;
+    void stash() const;
+    void startTerminal() const;
+
+    /// Blocks until the directory has been handed to the application of that name.
+    void openInApp(const QString& name) const;
+
+    /// Reads the file system at every call; see project_files.h.
+    [[nodiscard]] QList<PP> projectFiles() const;
+    /// Reads the preferences at every call; see repo_link.h.
+    [[nodiscard]] QList<RepoLink> links() const;
+
     /// Records of one directory are equal.
     friend bool operator==(const RepoViewModel& a, const RepoViewModel& b)
     {
@@ -105,6 +128,7 @@ Q_SIGNALS:
     void isLoadingChanged();
     void statusStringChanged();
     void branchStringChanged();
+    void remoteUrlChanged();
 
 private:
     RepoViewModel(QString dir, std::shared_ptr<RepoViewModelDelegate> delegate,
@@ -112,12 +136,14 @@ private:
 
     void loadLogo();
     void startQueries();
+    void refreshRemoteUrl();
     void applyStatus(const QString& text);
 
     void setIsRepo(bool isRepo);
     void setIsLoading(bool isLoading);
     void setStatusString(std::optional<QString> statusString);
     void setBranchString(QString branchString);
+    void setRemoteUrl(QString remoteUrl);
 
     const QString m_dir;
     const QString m_name;
@@ -129,6 +155,7 @@ private:
     bool m_isLoading = false;
     std::optional<QString> m_statusString;
     std::optional<QString> m_branchString;
+    std::optional<QString> m_remoteUrl;
     std::optional<QString> m_gitStatus;
 };
 

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/terminal_launcher.h"
+
+namespace tarnwick {
+
+/// Asks for a terminal in `dir` in which git runs the subcommand; an empty one asks for the
+/// terminal alone. The AppleScript takes `dir` as it is: a quote or a backslash in it breaks the
+/// script.
+[[nodiscard]] TerminalRequest terminalRequest(const QString& dir, const QString& gitSubcommand);
+
+} // namespace tarnwick

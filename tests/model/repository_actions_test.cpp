@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "model/remote_address.h"
+#include "support/stops_process.h"
+#include "support/temporary_repository.h"
+#include "support/test_registry.h"
+#include "support/workbench.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace tarnwick;
+using namespace tarnwick::test;
+
+/// What a record knows beyond its status, and what it starts.
+class RepositoryActionsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void remoteBecomesWebAddress_data();
+    void remoteBecomesWebAddress();
+    void remoteIsLearntOnceAtCreation();
+    void linksAreReadAsTyped_data();
+    void linksAreReadAsTyped();
+    void terminalIsTold_data();
+    void terminalIsTold();
+    void projectsOfTwoLevelsAreFound();
+    void openGetsItsArguments();
+
+private:
+    Workbench m_bench;
+};
+
+void RepositoryActionsTest::remoteBecomesWebAddress_data()
+{
+    QTest::addColumn<QString>("remote");
+    QTest::addColumn<QString>("address");
+    const auto row = [](const char* name, const QString& remote, const QString& address) {
+        QTest::newRow(name) << remote << address;
+    };
+    row("scp form", u"git@github.com:owner/repo.git\n"_qs, u"https://github.com/owner/repo"_qs);
+    row("https", u"https://github.com/owner/repo.git\n"_qs, u"https://github.com/owner/repo"_qs);
+    row("host that does not end in com", u"git@gitlab.gnome.org:owner/repo.git"_qs,
+        u"https://gitlab.gnome.org:owner/repo"_qs);
+    row("ssh with a port", u"ssh://git@gitlab.com:22/o/r.git"_qs, u"ssh://https://gitlab.com/22/o/r"_qs);
+    row("only in the name", u"git@example.com:me/github-notes.git"_qs,
+        u"https://example.com/me/github-notes"_qs);
+    row(".git within the name", u"https://github.com/o/a.github.io.git"_qs,
+        u"https://github.com/o/ahub.io"_qs);
+    row("another host", u"git@example.com:owner/repo.git"_qs, {});
+    row("capitals", u"https://GitHub.com/owner/repo"_qs, {});
+    row("no remote", {}, {});
+    row("output that is no text", u"1?"_qs, {});
+}
+
+void RepositoryActionsTest::remoteBecomesWebAddress()
+{
+    QFETCH(QString, remote);
+    QFETCH(QString, address);
+    QCOMPARE(remoteWebAddress(remote).value_or(QString()), address);
+}
+
+void RepositoryActionsTest::remoteIsLearntOnceAtCreation()
+{
+    const TemporaryRepository repository;
+    repository.git({u"remote add origin git@github.com:owner/repo.git"_qs});
+    const auto record = m_bench.record(repository.dir());
+    QTRY_COMPARE(record->remoteUrl(), u"https://github.com/owner/repo"_qs);
+    repository.git({u"remote set-url origin git@gitlab.com:other/repo.git"_qs});
+    refreshAll({record});
+    QTRY_VERIFY(record->branchString() && record->gitStatus() && !record->isLoading());
+    QCOMPARE(record->remoteUrl(), u"https://github.com/owner/repo"_qs);
+}
+
+void RepositoryActionsTest::linksAreReadAsTyped_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QList<RepoLink>>("links");
+    using Links = QList<RepoLink>;
+    QTest::newRow("empty lines") << u"\nhttp://a @@ Docs\n\n"_qs
+                                 << Links{{u"http://a"_qs, u"Docs"_qs}};
+    QTest::newRow("second separator") << u"a @@ b @@ c"_qs << Links{{u"a"_qs, u"b"_qs}};
+    QTest::newRow("spaces belong") << u" a  @@  b \r\nc @@ "_qs
+                                   << Links{{u" a "_qs, u" b \r"_qs}, {u"c"_qs, {}}};
+    QTest::newRow("empty text") << QString() << Links();
+}
+
+void RepositoryActionsTest::linksAreReadAsTyped()
+{
+    QFETCH(QString, stored);
+    const auto here = m_bench.record(u"/nonexistent/a/app"_qs);
+    const auto there = m_bench.record(u"/nonexistent/b/app"_qs);
+    m_bench.store.setObject(stored, u"app-urls"_qs);
+    QTEST(here->links(), "links");
+    QTEST(there->links(), "links");
+    for (const auto* malformed : {"http://a@@Docs", "a @@ b\n ", "http://a"}) {
+        m_bench.store.setObject(QString::fromLatin1(malformed), u"app-urls"_qs);
+        QVERIFY2(stopsProcess([&] { static_cast<void>(here->links()); }), malformed);
+    }
+}
+
+void RepositoryActionsTest::terminalIsTold_data()
+{
+    using Action = void (RepoViewModel::*)() const;
+    QTest::addColumn<Action>("action");
+    QTest::addColumn<QString>("shellCommand");
+    QTest::addColumn<QStringList>("command");
+    QTest::newRow("push") << &RepoViewModel::push << u"cd '/tmp/x' && git push"_qs
+                          << QStringList{u"git"_qs, u"push"_qs};
+    QTest::newRow("pull") << &RepoViewModel::pull << u"cd '/tmp/x' && git pull"_qs
+                          << QStringList{u"git"_qs, u"pull"_qs};
+    QTest::newRow("stash") << &RepoViewModel::stash << u"cd '/tmp/x' && git stash"_qs
+                           << QStringList{u"git"_qs, u"stash"_qs};
+    QTest::newRow("terminal") << &RepoViewModel::startTerminal << u"cd '/tmp/x'"_qs << QStringList();
+}
+
+void RepositoryActionsTest::terminalIsTold()
+{
+    using Action = void (RepoViewModel::*)() const;
+    QFETCH(Action, action);
+    QFETCH(QString, shellCommand);
+    const auto record = m_bench.record(u"/tmp/x"_qs);
+    ((*record).*action)();
+    const TerminalRequest request = m_bench.terminal.requests.takeLast();
+    QCOMPARE(request.dir, u"/tmp/x"_qs);
+    QTEST(request.command, "command");
+    QCOMPARE(request.appleScript,
+             QString(u"tell application \"Terminal\"\n    activate\n    do script \""_qs +
+                     shellCommand + u"\"\nend tell"_qs));
+}
+
+void RepositoryActionsTest::projectsOfTwoLevelsAreFound()
+{
+    const QTemporaryDir root;
+    for (const auto* folder : {"App.xcodeproj/project.xcworkspace", "ios/My Other.xcworkspace",
+                               "ios/deep/Far.xcodeproj", ".build/Hidden.xcodeproj", "a#b.xcodeproj"})
+        QVERIFY(QDir(root.path()).mkpath(QString::fromLatin1(folder)));
+    writeFile(root.filePath(u"File.xcodeproj"_qs), "a file has no slash to drop");
+
+    QStringList kinds;
+    QStringList paths;
+    for (const RepoViewModel::PP& found : m_bench.record(root.path())->projectFiles()) {
+        QCOMPARE(found.image, u"Xcode"_qs);
+        QCOMPARE(found.title, found.path.section(u'/', -1));
+        kinds += found.path.section(u'.', -1);
+        paths += found.path.mid(root.path().size() + 1);
+    }
+    QCOMPARE(kinds.join(u' '), u"xcodeproj xcodeproj xcworkspace xcworkspace"_qs);
+    paths.sort();
+    QCOMPARE(paths, (QStringList{u"App.xcodeproj"_qs, u"App.xcodeproj/project.xcworkspace"_qs,
+                                 u"a%23b.xcodeproj"_qs, u"ios/My Other.xcworkspace"_qs}));
+    QVERIFY(m_bench.record(QString())->projectFiles().isEmpty());
+}
+
+void RepositoryActionsTest::openGetsItsArguments()
+{
+    const QString recorder = m_bench.folder.filePath(u"open"_qs);
+    const QString recorded = m_bench.folder.filePath(u"recorded"_qs);
+    writeFile(recorder, "#!/bin/sh\nprintf '<%s>' \"$@\" >> \"${0%open}recorded\"\n");
+    QVERIFY(QFile::setPermissions(recorder, QFile::ReadOwner | QFile::ExeOwner));
+    const CommandRunner runner({.open = recorder});
+
+    RepoServices services{runner, m_bench.queue, m_bench.terminal, m_bench.store};
+    const QString odd = u"/tmp/a b'\"$(id)\n-x"_qs;
+    RepoViewModel::create(odd, nullptr, services)->openInApp(u"Sublime Text.app"_qs);
+    revealInFinder(odd, runner);
+    QFile file(recorded);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromUtf8(file.readAll()),
+             QString(u"<-a><Sublime Text.app><"_qs + odd + u"><--reveal><"_qs + odd + u'>'));
+}
+
+TARNWICK_TEST(RepositoryActionsTest)
+
+#include "repository_actions_test.moc"
