@@ -3,6 +3,7 @@
 
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QPainter>
 #include <QStringList>
 
 #include <algorithm>
@@ -10,6 +11,9 @@
 namespace tarnwick {
 
 namespace {
+
+/// Of a glyph above the baseline, in parts of its height.
+constexpr qreal middle = 0.36;
 
 QString loadSymbolFont()
 {
@@ -52,6 +56,15 @@ QString symbolNamed(QStringView name)
     const auto* const symbol =
         std::ranges::find_if(namedSymbols, [name](const NamedSymbol& s) { return name == s.name; });
     return symbol == namedSymbols.end() ? QString() : glyphText(symbol->codePoint);
+}
+
+void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph)
+{
+    QFont font(symbolFontFamily());
+    font.setPixelSize(qRound(square.height()));
+    painter.setFont(font);
+    // The middle of the glyphs lies where that of capital letters does.
+    painter.drawText(QPointF(square.left(), square.center().y() + middle * square.height()), glyph);
 }
 
 } // namespace tarnwick

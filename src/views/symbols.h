@@ -6,6 +6,9 @@
 #include <QFont>
 #include <QString>
 
+class QPainter;
+class QRectF;
+
 /// The symbols of the interface are glyphs of a font of our own, so that they take the colour and
 /// the size of the text they stand in. Main thread only, after the application object is made.
 namespace tarnwick {
@@ -22,5 +25,8 @@ namespace tarnwick {
 
 /// The named symbol as text; empty for the empty or an unknown name.
 [[nodiscard]] QString symbolNamed(QStringView name);
+
+/// Fills the square with the glyph, in the painter's pen.
+void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph);
 
 } // namespace tarnwick

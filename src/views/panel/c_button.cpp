@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "views/panel/c_button.h"
+
+#include "views/colors.h"
+#include "views/symbols.h"
+#include "views/text_line.h"
+
+#include <QHBoxLayout>
+
+namespace tarnwick {
+
+namespace {
+
+constexpr int iconSide = 20;
+constexpr int smallIconSide = 12;
+constexpr int spacing = 8;
+constexpr int smallLineInset = 4;
+constexpr int smallTitleInset = 6;
+constexpr int bodyInset = 6;
+constexpr int outerInset = 20;
+constexpr int subtitleSize = 11;
+constexpr QSize smallest{200, 26};
+
+TextLine* newText(const QString& text, const QColor& color, const QFont& font, QWidget* parent)
+{
+    auto* const line = new TextLine(parent);
+    line->setFont(font);
+    line->setSegments({{text, color}});
+    return line;
+}
+
+} // namespace
+
+CButtonView::CButtonView(const CButton& content, QWidget* parent)
+    : QWidget(parent)
+{
+    setMinimumSize(smallest);
+    auto* const body = new QVBoxLayout(this);
+    const int side = outerInset + bodyInset;
+    body->setContentsMargins(side, bodyInset, side, bodyInset);
+    body->setSpacing(0);
+    body->setAlignment(Qt::AlignVCenter);
+
+    const QColor color = content.color.value_or(labelColor(palette()));
+    auto* const first = new QHBoxLayout;
+    first->setContentsMargins(content.small ? smallLineInset : 0, 0, 0, 0);
+    first->setSpacing(spacing);
+    first->addWidget(
+        new EntryImageView(content.img, content.small ? smallIconSide : iconSide, color, this), 0,
+        Qt::AlignVCenter);
+    if (content.small)
+        first->addSpacing(smallTitleInset);
+    first->addWidget(newText(content.title, color, withSymbols(font()), this), 0, Qt::AlignVCenter);
+    first->addStretch(1);
+    body->addLayout(first);
+
+    if (!content.sub)
+        return;
+    QFont subtitleFont = withSymbols(font());
+    subtitleFont.setPixelSize(subtitleSize);
+    auto* const second = new QHBoxLayout;
+    second->addSpacing(iconSide + spacing);
+    second->addWidget(newText(content.sub->isEmpty() ? QStringLiteral(" ") : *content.sub,
+                              secondaryLabelColor(palette()), subtitleFont, this));
+    second->addStretch(1);
+    body->addLayout(second);
+}
+
+} // namespace tarnwick

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "views/panel/divider.h"
+
+#include "views/colors.h"
+
+#include <QPainter>
+
+namespace tarnwick {
+
+namespace {
+
+constexpr int padding = 10;
+constexpr float strength = 0.2F;
+
+} // namespace
+
+Divider::Divider(QWidget* parent)
+    : QWidget(parent)
+{
+    setFixedHeight(2 * padding + 1);
+}
+
+void Divider::paintEvent(QPaintEvent* /*event*/)
+{
+    QColor color = labelColor(palette());
+    color.setAlphaF(strength);
+    QPainter(this).fillRect(QRect(padding, padding, width() - 2 * padding, 1), color);
+}
+
+} // namespace tarnwick
