@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/application_folder.h"
+#include "platform/freedesktop/application_folder.h"
 #include "platform/freedesktop/palette_follower.h"
 #include "platform/freedesktop/tray_host.h"
 #include "platform/platform.h"
@@ -41,6 +41,10 @@ Platform systemPlatform()
     platform.trayHost = std::make_unique<FreedesktopTrayHost>();
     platform.paletteFollower = std::make_unique<PaletteFollower>();
     platform.terminal = std::make_unique<NoTerminal>();
+    platform.systemApplications =
+        std::make_unique<FreedesktopApplicationFolder>(DesktopEntryPlace::System);
+    platform.userApplications =
+        std::make_unique<FreedesktopApplicationFolder>(DesktopEntryPlace::User);
     platform.openProgram = installed(QStringLiteral("libexec/tarnwick/open"));
     platform.bundleInfo = readBundleInfo();
     return platform;

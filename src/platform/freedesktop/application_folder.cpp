@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "platform/freedesktop/application_folder.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <array>
+
+namespace tarnwick {
+
+namespace {
+
+constexpr auto dataLocation = QStandardPaths::GenericDataLocation;
+
+QStringList withDataFolders(QStringList paths, const QString& folder)
+{
+    paths += QStandardPaths::locateAll(dataLocation, folder, QStandardPaths::LocateDirectory);
+    paths.removeDuplicates();
+    return paths;
+}
+
+/// Applications bring their icons for the theme hicolor. Qt knows no theme at all on some
+/// platforms, and misses hicolor where the theme in use and its fallback are both not installed.
+void searchIconsOfApplications()
+{
+    const QString base = QStringLiteral("hicolor");
+    QIcon::setFallbackThemeName(base);
+    if (QIcon::themeName().isEmpty())
+        QIcon::setThemeName(base);
+    QIcon::setThemeSearchPaths(withDataFolders(QIcon::themeSearchPaths(), QStringLiteral("icons")));
+    QIcon::setFallbackSearchPaths(
+        withDataFolders(QIcon::fallbackSearchPaths(), QStringLiteral("pixmaps")));
+}
+
+/// Entries are not supposed to name a theme's icon with its suffix, but some do.
+QString themeName(const QString& icon)
+{
+    constexpr std::array suffixes{u".png", u".svg", u".xpm"};
+    const bool suffixed = std::any_of(suffixes.begin(), suffixes.end(), [&](const auto* suffix) {
+        return icon.endsWith(QStringView(suffix));
+    });
+    return suffixed ? icon.chopped(4) : icon;
+}
+
+} // namespace
+
+FreedesktopApplicationFolder::FreedesktopApplicationFolder(DesktopEntryPlace place)
+    : m_place(place)
+{
+    searchIconsOfApplications();
+}
+
+QString FreedesktopApplicationFolder::path() const
+{
+    const QStringList folders = desktopEntryFolders(m_place);
+    const auto readable = std::find_if(folders.begin(), folders.end(), [](const QString& folder) {
+        return QDir(folder).isReadable();
+    });
+    return (readable == folders.end() ? folders.value(0) : *readable) + u'/';
+}
+
+std::optional<QStringList> FreedesktopApplicationFolder::entries() const
+{
+    const Reading& now = reading();
+    return now.succeeded ? std::optional(now.iconByName.keys()) : std::nullopt;
+}
+
+bool FreedesktopApplicationFolder::contains(const QString& name) const
+{
+    return reading().iconByName.contains(name);
+}
+
+QIcon FreedesktopApplicationFolder::icon(const QString& name) const
+{
+    const QString icon = reading().iconByName.value(name);
+    if (icon.isEmpty())
+        return {};
+    if (QDir::isAbsolutePath(icon))
+        return QFileInfo::exists(icon) ? QIcon(icon) : QIcon();
+    return QIcon::fromTheme(themeName(icon));
+}
+
+const FreedesktopApplicationFolder::Reading& FreedesktopApplicationFolder::reading() const
+{
+    if (m_reading)
+        return *m_reading;
+    m_reading.emplace();
+    if (const auto entries = shownDesktopEntries(m_place)) {
+        m_reading->succeeded = true;
+        for (const DesktopEntry& entry : *entries)
+            m_reading->iconByName.insert(entry.name + QStringLiteral(".app"), entry.icon);
+    }
+    QMetaObject::invokeMethod(
+        &m_turn, [this] { m_reading.reset(); }, Qt::QueuedConnection);
+    return *m_reading;
+}
+
+} // namespace tarnwick

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/application_folder.h"
+#include "platform/freedesktop/desktop_entries.h"
+
+#include <QHash>
+#include <QObject>
+
+namespace tarnwick {
+
+/// The desktop entries of a place as if they were files of one folder. What has been read serves
+/// until the event loop turns: a menu asks for hundreds of names at a time.
+class FreedesktopApplicationFolder : public ApplicationFolder
+{
+public:
+    explicit FreedesktopApplicationFolder(DesktopEntryPlace place);
+
+    [[nodiscard]] QString path() const override;
+    [[nodiscard]] std::optional<QStringList> entries() const override;
+    [[nodiscard]] bool contains(const QString& name) const override;
+    [[nodiscard]] QIcon icon(const QString& name) const override;
+
+private:
+    struct Reading
+    {
+        bool succeeded = false;
+        QHash<QString, QString> iconByName;
+    };
+
+    [[nodiscard]] const Reading& reading() const;
+
+    DesktopEntryPlace m_place;
+    mutable std::optional<Reading> m_reading;
+    mutable QObject m_turn;
+};
+
+} // namespace tarnwick

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace tarnwick {
+
+/// Below XDG_DATA_DIRS, or below XDG_DATA_HOME.
+enum class DesktopEntryPlace { System, User };
+
+/// An application as its desktop entry describes it.
+struct DesktopEntry
+{
+    /// Of the file that is in force.
+    QString path;
+    /// In no language but the one that it was written in.
+    QString name;
+    /// A name of the icon theme, or an absolute path; empty where there is none.
+    QString icon;
+};
+
+/// The folders of the place, those that take precedence first. They need not exist.
+[[nodiscard]] QStringList desktopEntryFolders(DesktopEntryPlace place);
+
+/// The applications of the place that this desktop is to show, each name once: of two entries of
+/// one name counts the one that takes precedence. An entry of the user's own, even a hidden one,
+/// replaces the system's of the same id. Nothing if no folder of the place can be read.
+///
+/// Reads every file at each call: milliseconds where hundreds are installed. The name of the
+/// desktop is the one that the process started with.
+[[nodiscard]] std::optional<QList<DesktopEntry>> shownDesktopEntries(DesktopEntryPlace place);
+
+} // namespace tarnwick
