@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/application_folder.h"
 #include "platform/freedesktop/palette_follower.h"
+#include "platform/freedesktop/terminal_launcher.h"
 #include "platform/freedesktop/tray_host.h"
 #include "platform/platform.h"
-#include "platform/terminal_launcher.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -20,11 +20,6 @@ QString installed(const QString& path)
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../") + path);
 }
 
-struct NoTerminal : TerminalLauncher
-{
-    void open(const TerminalRequest&) override {}
-};
-
 QJsonObject readBundleInfo()
 {
     QFile file(installed(QStringLiteral("share/tarnwick/Info.json")));
@@ -40,7 +35,7 @@ Platform systemPlatform()
     Platform platform;
     platform.trayHost = std::make_unique<FreedesktopTrayHost>();
     platform.paletteFollower = std::make_unique<PaletteFollower>();
-    platform.terminal = std::make_unique<NoTerminal>();
+    platform.terminal = std::make_unique<FreedesktopTerminalLauncher>();
     platform.systemApplications =
         std::make_unique<FreedesktopApplicationFolder>(DesktopEntryPlace::System);
     platform.userApplications =
