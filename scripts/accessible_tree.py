@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """accessible_tree.py NAME: what assistive technology finds in the running application NAME.
 
-Prints one line for each item that is showing, down to the first one with a name: left, top, width,
-height, role and name, with tabs between them.
+Prints one line for each item that is showing: left, top, width, height, role and name, with tabs
+between them. What a named control or a row consists of is left out, but for a row's open submenu.
 """
 import sys
 
@@ -13,21 +13,28 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib
 
 
-def walk(item, depth=0):
+# Roles of what holds items of its own, whatever it is called.
+HOLDERS = {"application", "dialog", "frame", "panel", "popup menu", "window"}
+
+
+def walk(item):
     try:
         name = item.get_name()
         if item.get_state_set().contains(Atspi.StateType.SHOWING):
             area = item.get_extents(Atspi.CoordType.SCREEN)
             print(area.x, area.y, area.width, area.height, item.get_role_name(), name,
                   sep="\t")
-        if name and depth > 0:
+        role = item.get_role_name()
+        if name and role not in HOLDERS and role != "menu item":
             return
         children = [item.get_child_at_index(i) for i in range(item.get_child_count())]
+        if role == "menu item":
+            children = [c for c in children if c and c.get_role_name() == "popup menu"]
     except GLib.Error:  # it went away while we looked
         return
     for child in children:
         if child:
-            walk(child, depth + 1)
+            walk(child)
 
 
 desktop = Atspi.get_desktop(0)

@@ -5,7 +5,7 @@
 # picture of the screen.
 set -euo pipefail
 scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-program=$1 folder=$2 output=$3
+program=$1 folder=$2 output=$3 row=${4-}
 
 XDG_CONFIG_HOME=$folder/config "$program" >"$folder/program.log" 2>&1 &
 pid=$!
@@ -51,9 +51,22 @@ menu_at_rest() {
         [[ $(import -window "$1" rgb:- | md5sum) == "$before" ]]
 }
 
+row_middle() {
+    "$scripts/accessible_tree.py" tarnwick |
+        awk -F '\t' -v row="$row" -v scale="${TARNWICK_DESKTOP_SCALE:-1}" '$5 == "menu item" && index($6, row) == 1 && !found++ {
+            print int(($1 + $3 / 2) * scale), int(($2 + $4 / 2) * scale) }'
+}
+
+open_panel() { "$scripts/accessible_tree.py" tarnwick | grep "push button.Show in Finder" >/dev/null; }
+
 wait_for position item_at_rest
 # shellcheck disable=SC2086 # two numbers
 xdotool mousemove $position click 1
 wait_for menu open_menu
 wait_for nothing menu_at_rest "$menu"
+if [[ $row ]]; then
+    xdotool mousemove $(row_middle)
+    wait_for panel open_panel
+    wait_for nothing menu_at_rest root
+fi
 import -window root "png:$output"

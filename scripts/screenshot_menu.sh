@@ -4,7 +4,7 @@
 # panel and saves a picture of the screen; prints the picture's path.
 #
 #   screenshot_menu.sh [--output PNG] [--program PATH] [--repos samples|COUNT] [--dark] [--scale N]
-#                      [--host xfce4-panel|trayer] [--size WxH] [--preference KEY=true|false]...
+#                      [--panel ROW] [--host xfce4-panel|trayer] [--size WxH] [--preference KEY=JSON]...
 #
 # The preferences are made for the occasion, too: nothing of the user's is read or written.
 set -euo pipefail
@@ -12,6 +12,7 @@ scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 usage() { sed -n '6,7s/^# *//p' "${BASH_SOURCE[0]}" >&2; exit 64; }
 
 output=$scripts/../build/screenshots/menu.png
+panel=
 program=$scripts/../build/release/bin/tarnwick
 repos=samples
 desktop=()
@@ -22,6 +23,7 @@ while (($#)); do
     --program) program=${2-}; shift 2 || usage ;;
     --repos) repos=${2-}; shift 2 || usage ;;
     --preference) preferences+=("${2-}"); shift 2 || usage ;;
+    --panel) panel=${2-}; shift 2 || usage ;;
     --dark) desktop+=("$1"); shift ;;
     --scale | --host | --size) desktop+=("$1" "${2-}"); shift 2 || usage ;;
     *) usage ;;
@@ -48,5 +50,5 @@ mkdir -p "$folder/config/tarnwick"
 } >"$folder/config/tarnwick/preferences.json"
 
 "$scripts/virtual_desktop.sh" ${desktop[@]+"${desktop[@]}"} -- \
-    "$scripts/photograph_menu.sh" "$program" "$folder" "$output"
+    "$scripts/photograph_menu.sh" "$program" "$folder" "$output" "$panel"
 echo "$output"

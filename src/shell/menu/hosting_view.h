@@ -21,6 +21,8 @@ public:
     void setText(const QString& text);
 
 Q_SIGNALS:
+    /// The menu is about to open; what the content changes now is in place when it does.
+    void aboutToBeShown();
     void textChanged();
 
 protected:

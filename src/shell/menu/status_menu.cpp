@@ -168,6 +168,10 @@ void StatusMenu::resizeEvent(QResizeEvent* event)
 
 void StatusMenu::prepare()
 {
+    for (QAction* const action : actions()) {
+        if (HostingView* const view = hostedView(action))
+            Q_EMIT view->aboutToBeShown();
+    }
     m_scroller.scrollTo(0);
     layOutRows();
     m_room = {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};

@@ -80,6 +80,7 @@ private:
     [[nodiscard]] bool answersPressOutside(QPoint global);
     void step(bool forward, bool throughRows);
     void enter();
+    void revealFocus();
 
     MenuScroller m_scroller{*this};
     std::optional<QRect> m_anchor;

@@ -155,8 +155,10 @@ bool StatusMenu::focusNextPrevChild(bool next)
 void StatusMenu::step(bool forward, bool throughRows)
 {
     HostedRow* const from = activeRow();
-    if (from && (throughRows || !from->menu()) && from->moveFocus(forward))
+    if (from && (throughRows || !from->menu()) && from->moveFocus(forward)) {
+        revealFocus();
         return;
+    }
     setFocus(Qt::PopupFocusReason);
     QKeyEvent key(QEvent::KeyPress, forward ? Qt::Key_Down : Qt::Key_Up, Qt::NoModifier);
     QMenu::keyPressEvent(&key);
@@ -164,12 +166,20 @@ void StatusMenu::step(bool forward, bool throughRows)
         m_scroller.reveal(actionGeometry(activeAction()));
     if (HostedRow* const row = activeRow(); row && !row->menu())
         row->focusEnd(forward);
+    revealFocus();
 }
 
 void StatusMenu::enter()
 {
     if (HostedRow* const row = activeRow(); row && !row->menu())
         row->focusEnd(true);
+    revealFocus();
+}
+
+void StatusMenu::revealFocus()
+{
+    if (const QWidget* const inside = focusWidget(); inside && inside != this)
+        m_scroller.reveal(QRect(inside->mapTo(this, QPoint()), inside->size()));
 }
 
 } // namespace tarnwick

@@ -39,7 +39,6 @@ CButtonView::CButtonView(const CButton& content, QWidget* parent)
     const int side = outerInset + bodyInset;
     body->setContentsMargins(side, bodyInset, side, bodyInset);
     body->setSpacing(0);
-    body->setAlignment(Qt::AlignVCenter);
 
     const QColor color = content.color.value_or(labelColor(palette()));
     auto* const first = new QHBoxLayout;

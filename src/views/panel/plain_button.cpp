@@ -20,6 +20,8 @@ constexpr float focusStrength = 0.25F;
 PlainButton::PlainButton(const CButton& content, QWidget* parent)
     : QAbstractButton(parent)
 {
+    // As high as the content is at the width it gets; buttons are as high as their size hint.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(content.title);
     if (content.sub)
