@@ -6,5 +6,5 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 scripts/install_packages.sh build lint
 scripts/build.sh dev
-(($#)) || mapfile -t files < <(find src -name '*.cpp')
+(($#)) || mapfile -t files < <(find src helpers -name '*.cpp')
 printf '%s\n' "${@:-${files[@]}}" | xargs -P "$(nproc)" -n 1 clang-tidy -p build/dev --quiet 2>/dev/null

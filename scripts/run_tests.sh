@@ -13,7 +13,7 @@ check() {
     echo "Check: $name"
     if "$@"; then passed=$((passed + 1)); else failed=$((failed + 1)) && echo "FAILED: $name"; fi
 }
-formatted() { find src tests -name '*.h' -o -name '*.cpp' | xargs clang-format --dry-run -Werror; }
+formatted() { find src helpers tests -name '*.h' -o -name '*.cpp' | xargs clang-format --dry-run -Werror; }
 
 # Adds up the lines "Totals: 3 passed, 0 failed, 1 skipped, ..." of a log.
 count_totals() {

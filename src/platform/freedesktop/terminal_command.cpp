@@ -2,6 +2,7 @@
 #include "platform/freedesktop/terminal_command.h"
 
 #include <QSet>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <array>
@@ -79,6 +80,13 @@ std::optional<TerminalCommand> terminalCommand(const QString& folder, const QStr
         return TerminalCommand{program, arguments + command};
     }
     return {};
+}
+
+std::optional<TerminalCommand> terminalCommand(const QString& folder, const QStringList& command)
+{
+    return terminalCommand(
+        folder, command, qEnvironmentVariable("XDG_CURRENT_DESKTOP"),
+        [](const QString& name) { return QStandardPaths::findExecutable(name); });
 }
 
 } // namespace tarnwick

@@ -27,4 +27,8 @@ using ExecutableFinder = std::function<QString(const QString& name)>;
                                                              const QString& desktops,
                                                              const ExecutableFinder& find);
 
+/// The same for the desktop that this process runs on.
+[[nodiscard]] std::optional<TerminalCommand> terminalCommand(const QString& folder,
+                                                             const QStringList& command);
+
 } // namespace tarnwick

@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
-#include <QStandardPaths>
 
 namespace tarnwick {
 
@@ -36,10 +35,7 @@ exec "$SHELL")");
 void FreedesktopTerminalLauncher::open(const TerminalRequest& request)
 {
     const QString folder = startFolder(request.dir);
-    const auto command =
-        terminalCommand(folder, terminalSession(request.dir, request.command),
-                        qEnvironmentVariable("XDG_CURRENT_DESKTOP"),
-                        [](const QString& name) { return QStandardPaths::findExecutable(name); });
+    const auto command = terminalCommand(folder, terminalSession(request.dir, request.command));
     if (!command)
         return;
 
