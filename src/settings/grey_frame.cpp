@@ -18,8 +18,9 @@ GreyFrame::GreyFrame(QWidget* content, int inset, QWidget* parent)
 void GreyFrame::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.setPen(Qt::gray);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    // A pen would be cut in half at the edges of a screen that scales.
+    painter.setClipRegion(QRegion(rect()) - rect().adjusted(1, 1, -1, -1));
+    painter.fillRect(rect(), Qt::gray);
 }
 
 } // namespace tarnwick
