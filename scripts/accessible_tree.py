@@ -14,7 +14,7 @@ from gi.repository import Atspi, GLib
 
 
 # Roles of what holds items of its own, whatever it is called.
-HOLDERS = {"application", "dialog", "frame", "panel", "popup menu", "window"}
+HOLDERS = {"alert", "application", "dialog", "frame", "list", "page tab list", "panel", "popup menu"}
 
 
 def walk(item):

@@ -16,7 +16,6 @@ int main(int argc, char* argv[])
 
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tarnwick"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Tarnwick"));
     QApplication::setDesktopFileName(QStringLiteral("org.tarnwick.Tarnwick"));
     // The program lives in the status bar: closing a window is never the end of it.
     QApplication::setQuitOnLastWindowClosed(false);

@@ -6,12 +6,12 @@
 #include "model/repo_view_model.h"
 #include "settings/close_key_window.h"
 #include "settings/grey_frame.h"
+#include "settings/save_button.h"
 #include "settings/secondary_text.h"
 #include "settings/settings_host.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -26,6 +26,8 @@ constexpr int headingSize = 14;
 constexpr int editorWidth = 800;
 constexpr int editorMinimumHeight = 300;
 constexpr int editorInset = 10;
+/// The editor in its frame is wider than the insets leave room for.
+constexpr int editorEndInset = viewWidth - outerInset - (editorWidth + 2 * (editorInset + 1));
 
 QLabel* newHeading(const QString& text, QWidget* parent)
 {
@@ -79,7 +81,7 @@ void LinkSettingsView::showEvent(QShowEvent* event)
 void LinkSettingsView::layOut()
 {
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(outerInset, outerInset, outerInset, outerInset);
+    column->setContentsMargins(outerInset, outerInset, editorEndInset, outerInset);
     column->setSpacing(spacing);
     column->addWidget(newHeading(tr("Add links for '%1'").arg(m_forModel->name()), this));
     for (const QString& line :
@@ -96,7 +98,7 @@ void LinkSettingsView::layOut()
     m_editor->setLineWrapMode(QPlainTextEdit::NoWrap);
     column->addWidget(new GreyFrame(m_editor, editorInset, this), 1, Qt::AlignLeft);
 
-    auto* const save = new QPushButton(tr("Save and close settings"), this);
+    auto* const save = new SaveButton(this);
     connect(save, &QPushButton::clicked, this, &LinkSettingsView::saveLinks);
     auto* const buttons = new QHBoxLayout;
     buttons->addStretch(1);

@@ -6,11 +6,11 @@
 #include "settings/close_key_window.h"
 #include "settings/general_options_view.h"
 #include "settings/repositories_view.h"
+#include "settings/save_button.h"
 #include "settings/settings_header.h"
 #include "settings/settings_host.h"
 #include "settings/symbol_icon.h"
 
-#include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -22,7 +22,6 @@ constexpr int side = 600;
 constexpr int inset = 20;
 constexpr int gapUnderHeader = 20;
 constexpr int gapAboveButtons = 12;
-constexpr int buttonPadding = 12;
 
 } // namespace
 
@@ -49,8 +48,7 @@ SettingsView::SettingsView(RepoManager& mgr, PreferencesStore& store, SettingsHo
     column->addWidget(tabs, 1);
     column->addSpacing(gapAboveButtons);
 
-    auto* const save = new QPushButton(tr("Save and close settings"), this);
-    save->setMinimumWidth(save->sizeHint().width() + 2 * buttonPadding);
+    auto* const save = new SaveButton(this);
     connect(save, &QPushButton::clicked, this, &SettingsView::saveAndClose);
     column->addWidget(save, 0, Qt::AlignTrailing);
 }

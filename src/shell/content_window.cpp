@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "shell/content_window.h"
 
-#include <QWidget>
+#include <QLayout>
+#include <QMainWindow>
 
 namespace tarnwick {
 
 void showInWindow(std::unique_ptr<QWidget> content, const QString& title)
 {
-    QWidget* const window = content.release();
+    // A main window, because assistive technology takes a plain widget for a part of one.
+    auto* const window = new QMainWindow;
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(title);
+    window->setCentralWidget(content.release());
+    window->layout()->setSizeConstraint(QLayout::SetMinAndMaxSize);
     window->show();
     window->raise();
     window->activateWindow();
