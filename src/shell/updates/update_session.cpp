@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "shell/updates/update_session.h"
+
+#include "shell/updates/signature.h"
+#include "shell/updates/transfer.h"
+#include "shell/updates/trusted_address.h"
+#include "shell/updates/update_download.h"
+
+#include <QDesktopServices>
+
+namespace tarnwick {
+
+namespace {
+
+constexpr qint64 mebibyte = 1024 * 1024;
+constexpr qint64 largestFeed = 4 * mebibyte;
+constexpr qint64 largestDownload = 2048 * mebibyte;
+
+} // namespace
+
+UpdateSession::UpdateSession(UpdateSettings settings, QObject* parent)
+    : QObject(parent)
+    , m_settings(std::move(settings))
+{}
+
+void UpdateSession::start()
+{
+    auto* const transfer = new Transfer(m_network, largestFeed, this);
+    connect(transfer, &Transfer::arrived, this,
+            [this](const QByteArray& bytes) { m_feed += bytes; });
+    connect(transfer, &Transfer::succeeded, this, &UpdateSession::readFeed);
+    connect(transfer, &Transfer::failed, this, &UpdateSession::fail);
+    transfer->start(m_settings.feed);
+}
+
+void UpdateSession::readFeed()
+{
+    const auto items = parseAppcast(m_feed, appcastSystem());
+    if (!items)
+        return fail(tr("The server's list of updates cannot be read."));
+
+    m_offer = newestItem(*items, m_settings.buildNumber);
+    if (!m_offer)
+        return setState(State::UpToDate);
+    for (QUrl* const url : {&m_offer->url, &m_offer->notesLink}) {
+        if (!url->isEmpty())
+            *url = m_settings.feed.resolved(*url);
+    }
+    if (const QString objection = objectionTo(*m_offer); !objection.isEmpty())
+        return fail(objection);
+    setState(State::Offering);
+}
+
+QString UpdateSession::objectionTo(const AppcastItem& item) const
+{
+    if (decodedPublicKey(m_settings.publicKey).isEmpty()) {
+        return tr("Tarnwick %1 is available, but this copy of Tarnwick was made without the key "
+                  "that tells a genuine download from a forged one.")
+            .arg(item.name());
+    }
+    if (decodedSignature(item.signature).isEmpty()) {
+        return tr("Tarnwick %1 is available, but its download is not signed, so it cannot be told "
+                  "from a forged one.")
+            .arg(item.name());
+    }
+    if (!isTrustedAddress(item.url)) {
+        return tr("Tarnwick %1 is available, but there is no secure address to download it from.")
+            .arg(item.name());
+    }
+    if (item.length <= 0 || item.length > largestDownload) {
+        return tr("Tarnwick %1 is available, but the size of its download is missing or not "
+                  "credible.")
+            .arg(item.name());
+    }
+    return {};
+}
+
+void UpdateSession::download()
+{
+    if (m_state != State::Offering)
+        return;
+    auto* const download = new UpdateDownload(*m_offer, m_settings, m_network, this);
+    connect(download, &UpdateDownload::progressed, this, [this](qint64 receivedBytes) {
+        m_receivedBytes = receivedBytes;
+        Q_EMIT progressed();
+    });
+    connect(download, &UpdateDownload::arrived, this, [this] { setState(State::Verifying); });
+    connect(download, &UpdateDownload::succeeded, this, &UpdateSession::handOver);
+    connect(download, &UpdateDownload::failed, this, &UpdateSession::fail);
+    setState(State::Downloading);
+    download->start();
+}
+
+void UpdateSession::handOver(const QString& path)
+{
+    m_savedPath = path;
+    m_isOpened = QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    setState(State::Saved);
+}
+
+void UpdateSession::fail(const QString& reason)
+{
+    m_error = reason;
+    setState(State::Failed);
+}
+
+void UpdateSession::setState(State state)
+{
+    m_state = state;
+    Q_EMIT stateChanged();
+}
+
+} // namespace tarnwick
