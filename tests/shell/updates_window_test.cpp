@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "shell/updates/appcast.h"
+#include "shell/updates/notes_view.h"
+#include "shell/updates/update_window.h"
+#include "shell/updates/updater_controller.h"
+#include "support/loopback_server.h"
+#include "support/pixels.h"
+#include "support/signed_update.h"
+#include "support/temporary_repository.h"
+#include "support/test_registry.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace tarnwick;
+using namespace tarnwick::test;
+
+namespace {
+
+QList<UpdateWindow*> windows()
+{
+    QList<UpdateWindow*> found;
+    for (QWidget* const widget : QApplication::topLevelWidgets()) {
+        if (auto* const window = qobject_cast<UpdateWindow*>(widget))
+            found += window;
+    }
+    return found;
+}
+
+QStringList shown(const QWidget& window)
+{
+    QStringList texts;
+    for (const auto* label : window.findChildren<QLabel*>())
+        texts += label->isVisible() ? label->text() : QString();
+    return texts;
+}
+
+void press(const QWidget& window, const QString& text)
+{
+    for (auto* const button : window.findChildren<QPushButton*>()) {
+        if (button->isVisible() && button->text() == text)
+            return QTest::mouseClick(button, Qt::LeftButton);
+    }
+    QFAIL(qPrintable(u"no button "_qs + text));
+}
+
+} // namespace
+
+class UpdatesWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_settings.downloadFolder = m_folder.path(); }
+    void oneCheckAtATime();
+    void canBeCancelledAnyTime_data();
+    void canBeCancelledAnyTime();
+    void checksNothingWithoutASecureFeed();
+    void notesLoadNoFiles();
+
+private:
+    const SignedUpdate m_update{"content"};
+    LoopbackServer m_server;
+    const QTemporaryDir m_folder;
+    UpdateSettings m_settings{m_server.url("/feed"), m_update.publicKey(), u"10"_qs, {}};
+};
+
+void UpdatesWindowTest::oneCheckAtATime()
+{
+    m_server.answer("/feed", LoopbackServer::bytes(m_update.feed("pkg")));
+    std::optional<StandardUpdaterController> controller(std::in_place, m_settings, false);
+    Updater& updater = controller->updater();
+    const QSignalSpy changes(&updater, &Updater::canCheckForUpdatesChanged);
+    updater.checkForUpdates();
+    QCOMPARE(windows().size(), 0);
+
+    updater.start();
+    updater.checkForUpdates();
+    updater.checkForUpdates();
+    QCOMPARE(windows().size(), 1);
+    QVERIFY(!updater.canCheckForUpdates());
+    QTRY_VERIFY(shown(*windows().first()).contains(u"Tarnwick 10 is the newest version."_qs));
+    QTest::keyClick(windows().first(), Qt::Key_Escape);
+    QTRY_VERIFY(updater.canCheckForUpdates());
+    QCOMPARE(changes, QList<QVariantList>({{true}, {false}, {true}}));
+
+    updater.checkForUpdates();
+    controller.reset();
+    QTRY_VERIFY(shown(*windows().first()).contains(u"You are up to date"_qs));
+    press(*windows().first(), u"Close"_qs);
+    QTRY_COMPARE(windows().size(), 0);
+}
+
+void UpdatesWindowTest::canBeCancelledAnyTime_data()
+{
+    QTest::addColumn<bool>("isFeedSilent");
+    QTest::newRow("while checking") << true;
+    QTest::newRow("while downloading") << false;
+}
+
+void UpdatesWindowTest::canBeCancelledAnyTime()
+{
+    QFETCH(bool, isFeedSilent);
+    m_server.answer("/feed", isFeedSilent ? LoopbackServer::silence()
+                                          : LoopbackServer::bytes(m_update.feed("pkg")));
+    m_server.answer("/pkg", [](QTcpSocket& client) { client.write("HTTP/1.1 200 OK\r\n\r\nco"); });
+    UpdateSettings settings = m_settings;
+    settings.buildNumber = u"9"_qs;
+    StandardUpdaterController controller(settings, true);
+    controller.updater().checkForUpdates();
+    UpdateWindow& window = *windows().first();
+    if (!isFeedSilent) {
+        QTRY_VERIFY(shown(window).contains(u"Tarnwick 1.3 is available"_qs));
+        press(window, u"Download"_qs);
+        QTRY_VERIFY(shown(window).contains(u"2 bytes of 7 bytes"_qs));
+    }
+    press(window, u"Cancel"_qs);
+    QTRY_VERIFY(controller.updater().canCheckForUpdates());
+    QVERIFY(QDir(m_folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+}
+
+void UpdatesWindowTest::checksNothingWithoutASecureFeed()
+{
+    for (const QString& feed : {u""_qs, u"http://example.org/feed"_qs}) {
+        UpdateSettings settings = m_settings;
+        settings.feed = QUrl(feed);
+        StandardUpdaterController controller(settings, true);
+        QVERIFY(!controller.updater().canCheckForUpdates());
+    }
+}
+
+void UpdatesWindowTest::notesLoadNoFiles()
+{
+    QImage picture(50, 50, QImage::Format_RGB32);
+    picture.fill(Qt::magenta);
+    const QString file = m_folder.filePath(u"picture.png"_qs);
+    QVERIFY(picture.save(file));
+
+    AppcastItem item;
+    item.notes = u"<p>Notes<img src='%1'><img src='file://%1'></p><table><tr>"
+                 "<td style='background-image: url(%1)'>x</td></tr></table>"_qs.arg(file);
+    NotesView view;
+    view.showNotes(item);
+    view.resize(400, 300);
+    QVERIFY(!showsColor(view.grab().toImage(), Qt::magenta));
+}
+
+TARNWICK_TEST(UpdatesWindowTest)
+
+#include "updates_window_test.moc"
