@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "shell/app_delegate.h"
 
+#include "model/bundle_info.h"
 #include "model/diagnostics.h"
 #include "model/repo_manager.h"
 #include "platform/platform.h"
+#include "settings/settings_view.h"
 #include "shell/application_menu.h"
+#include "shell/content_window.h"
 #include "shell/menu/status_menu.h"
 #include "shell/status_item.h"
 
@@ -20,8 +23,10 @@ AppDelegate::AppDelegate(Platform& platform, PreferencesStore& store, RepoServic
     : m_platform(platform)
     , m_store(store)
     , m_services(services)
-    , m_appMenu(std::make_shared<ApplicationMenu>(platform, store, *this))
-{}
+    , m_appMenu(std::make_shared<ApplicationMenu>(platform, services.runner, store, *this))
+{
+    connect(m_appMenu.get(), &ApplicationMenu::settingsRequested, this, &AppDelegate::openSettings);
+}
 
 AppDelegate::~AppDelegate()
 {
@@ -45,6 +50,14 @@ void AppDelegate::applicationDidFinishLaunching()
 void AppDelegate::menuWillOpen()
 {
     m_appMenu->refreshOnOpen();
+}
+
+void AppDelegate::openSettings()
+{
+    showInWindow(std::make_unique<SettingsView>(
+                     repoManager(), m_store, *this, BundleInfo(m_platform.bundleInfo),
+                     *m_platform.systemApplications, *m_platform.userApplications),
+                 tr("Settings"));
 }
 
 StatusItem& AppDelegate::statusBarItem()
@@ -84,7 +97,7 @@ void AppDelegate::setLaunchAtLogin(bool /*enabled*/)
 
 std::shared_ptr<RepoViewModelDelegate> AppDelegate::newRecordDelegate()
 {
-    return std::make_shared<ApplicationMenu>(m_platform, m_store, *this);
+    return std::make_shared<ApplicationMenu>(m_platform, m_services.runner, m_store, *this);
 }
 
 void AppDelegate::makeStatusItem()
@@ -93,6 +106,8 @@ void AppDelegate::makeStatusItem()
     connect(m_statusBarItem.get(), &StatusItem::triggered, this, &AppDelegate::openMenu);
     connect(m_statusBarItem.get(), &StatusItem::refreshAllRequested, this,
             [this] { refreshAll(m_appMenu->models()); });
+    connect(m_statusBarItem.get(), &StatusItem::settingsRequested, this,
+            &AppDelegate::openSettings);
 }
 
 void AppDelegate::openMenu(const QRect& anchor)

@@ -35,6 +35,9 @@ public:
     /// The status menu is about to open.
     void menuWillOpen();
 
+    /// Opens another window of settings.
+    void openSettings();
+
     /// Made on first use.
     [[nodiscard]] StatusItem& statusBarItem();
     [[nodiscard]] ApplicationMenu& appMenu() { return *m_appMenu; }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/application_menu.h"
 
+#include "model/bundle_info.h"
 #include "model/diagnostics.h"
 #include "model/preference_keys.h"
 #include "model/preferences_store.h"
@@ -10,7 +11,12 @@
 #include "shell/content_window.h"
 #include "shell/menu/hosting_view.h"
 #include "shell/menu/status_menu.h"
+#include "shell/top_row/refresh_view.h"
+#include "shell/updates/update_settings.h"
+#include "shell/updates/updater_controller.h"
 #include "views/empty_state_view.h"
+#include "views/panel/actions_view.h"
+#include "views/panel/app_entry.h"
 #include "views/repo_status_view.h"
 
 #include <QTimer>
@@ -28,8 +34,10 @@ constexpr auto refreshDelay = 200ms;
 
 } // namespace
 
-ApplicationMenu::ApplicationMenu(Platform& platform, PreferencesStore& store, SettingsHost& host)
+ApplicationMenu::ApplicationMenu(Platform& platform, const CommandRunner& runner,
+                                 PreferencesStore& store, SettingsHost& host)
     : m_platform(platform)
+    , m_runner(runner)
     , m_store(store)
     , m_host(host)
 {}
@@ -40,7 +48,8 @@ std::unique_ptr<StatusMenu> ApplicationMenu::buildMenu(const RepoManager& reposi
     m_models = repositories.models();
 
     auto menu = std::make_unique<StatusMenu>();
-    // The row of global controls will stand here, with a separator below it.
+    addRefreshRow(*menu);
+    menu->addSeparator();
     if (m_models.empty())
         addEmptyStateItem(*menu);
     for (const auto& record : m_models)
@@ -70,6 +79,17 @@ void ApplicationMenu::addd()
     writeDiagnosticLine(QStringLiteral("asd"));
 }
 
+void ApplicationMenu::addRefreshRow(StatusMenu& menu) const
+{
+    const BundleInfo bundle(m_platform.bundleInfo);
+    auto controller = std::make_unique<StandardUpdaterController>(updateSettings(bundle), true);
+    auto* const controls = new RefreshView(m_models, std::move(controller), bundle);
+    connect(controls, &RefreshView::settingsRequested, this, &ApplicationMenu::settingsRequested);
+    auto* const row = new HostingView(controls);
+    row->setText(controls->text());
+    menu.addHostedRow(row);
+}
+
 void ApplicationMenu::addRepositoryItem(const std::shared_ptr<RepoViewModel>& record,
                                         StatusMenu& menu) const
 {
@@ -78,9 +98,23 @@ void ApplicationMenu::addRepositoryItem(const std::shared_ptr<RepoViewModel>& re
     row->setText(status->text());
     connect(status, &RepoStatusView::textChanged, row,
             [status, row] { row->setText(status->text()); });
-    // The repository's panel will be this action's menu.
-    menu.addHostedRow(row);
+    menu.addHostedRow(row)->setMenu(newPanel(record, menu));
     menu.addSeparator();
+}
+
+StatusMenu* ApplicationMenu::newPanel(const std::shared_ptr<RepoViewModel>& record,
+                                      StatusMenu& menu) const
+{
+    auto* const actions = new ActionsView(
+        record,
+        loadAppEntries(m_store, *m_platform.systemApplications, *m_platform.userApplications),
+        m_runner);
+    auto* const row = new HostingView(actions);
+    row->setText(tr("Actions for %1").arg(record->name()));
+    connect(row, &HostingView::aboutToBeShown, actions, &ActionsView::render);
+    auto* const panel = new StatusMenu(&menu);
+    panel->addHostedRow(row);
+    return panel;
 }
 
 void ApplicationMenu::addEmptyStateItem(StatusMenu& menu) const

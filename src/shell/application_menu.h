@@ -23,7 +23,8 @@ class ApplicationMenu : public QObject, public RepoViewModelDelegate
 
 public:
     /// What it is given outlives it.
-    ApplicationMenu(Platform& platform, PreferencesStore& store, SettingsHost& host);
+    ApplicationMenu(Platform& platform, const CommandRunner& runner, PreferencesStore& store,
+                    SettingsHost& host);
 
     /// The records of the menu built last; a refresh works on these, not on the live list.
     [[nodiscard]] const RepoViewModels& models() const { return m_models; }
@@ -45,11 +46,18 @@ public:
     /// Lets go of the records, which hold this object.
     void releaseModels() { m_models.clear(); }
 
+Q_SIGNALS:
+    void settingsRequested();
+
 private:
+    void addRefreshRow(StatusMenu& menu) const;
     void addRepositoryItem(const std::shared_ptr<RepoViewModel>& record, StatusMenu& menu) const;
+    [[nodiscard]] StatusMenu* newPanel(const std::shared_ptr<RepoViewModel>& record,
+                                       StatusMenu& menu) const;
     void addEmptyStateItem(StatusMenu& menu) const;
 
     Platform& m_platform;
+    const CommandRunner& m_runner;
     PreferencesStore& m_store;
     SettingsHost& m_host;
     RepoViewModels m_models;

@@ -45,6 +45,8 @@ void StatusItem::fillContextMenu()
             [this] { Q_EMIT triggered(anchor()); });
     connect(m_contextMenu.addAction(tr("Refresh all")), &QAction::triggered, this,
             &StatusItem::refreshAllRequested);
+    connect(m_contextMenu.addAction(tr("Settings")), &QAction::triggered, this,
+            &StatusItem::settingsRequested);
     m_contextMenu.addSeparator();
     connect(m_contextMenu.addAction(tr("Quit")), &QAction::triggered, qApp,
             &QCoreApplication::quit);

@@ -32,6 +32,7 @@ Q_SIGNALS:
     /// panels that do not tell, an empty rectangle at the pointer. A double click asks twice.
     void triggered(const QRect& anchor);
     void refreshAllRequested();
+    void settingsRequested();
 
 private:
     void fillContextMenu();

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPushButton>
+
+namespace tarnwick {
+
+/// A push button that shows one glyph; what it does stands in its tooltip and accessible name.
+class GlyphButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    GlyphButton(char32_t glyph, const QString& action, QWidget* parent = nullptr);
+};
+
+} // namespace tarnwick

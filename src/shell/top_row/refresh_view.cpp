@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "shell/top_row/refresh_view.h"
+
+#include "model/bundle_info.h"
+#include "shell/top_row/check_for_updates_view.h"
+#include "shell/top_row/glyph_button.h"
+#include "shell/updates/updater_controller.h"
+#include "views/colors.h"
+#include "views/symbols.h"
+#include "views/text_line.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QHBoxLayout>
+
+namespace tarnwick {
+
+namespace {
+
+constexpr int rowWidth = 340;
+constexpr int sideInset = 20;
+constexpr int endInset = 10;
+constexpr int spacing = 8;
+constexpr int nameSize = 10;
+
+} // namespace
+
+RefreshView::RefreshView(RepoViewModels models,
+                         std::unique_ptr<StandardUpdaterController> updaterController,
+                         const BundleInfo& bundle, QWidget* parent)
+    : QWidget(parent)
+    , m_models(std::move(models))
+    , m_updaterController(std::move(updaterController))
+    , m_buildNumber(bundle.requiredText(QStringLiteral("CFBundleVersion")))
+    , m_name(new TextLine(this))
+{
+    setFixedWidth(rowWidth);
+    layOut();
+    render();
+}
+
+RefreshView::~RefreshView() = default;
+
+QString RefreshView::text() const
+{
+    return tr("Tarnwick %1").arg(m_buildNumber);
+}
+
+QSize RefreshView::sizeHint() const
+{
+    return {rowWidth, layout()->heightForWidth(rowWidth)};
+}
+
+void RefreshView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        render();
+    QWidget::changeEvent(event);
+}
+
+void RefreshView::layOut()
+{
+    QFont nameFont = font();
+    nameFont.setPixelSize(nameSize);
+    m_name->setFont(nameFont);
+
+    auto* const update = new CheckForUpdatesView(m_updaterController->updater(), this);
+    auto* const refresh = new GlyphButton(glyph::refresh, tr("Refresh all repositories"), this);
+    connect(refresh, &QAbstractButton::clicked, this, [this] { refreshAll(m_models); });
+    auto* const settings = new GlyphButton(glyph::settings, tr("Settings"), this);
+    connect(settings, &QAbstractButton::clicked, this, &RefreshView::settingsRequested);
+    auto* const quit = new GlyphButton(glyph::quit, tr("Quit Tarnwick"), this);
+    connect(quit, &QAbstractButton::clicked, qApp, &QCoreApplication::quit);
+
+    auto* const row = new QHBoxLayout(this);
+    row->setContentsMargins(sideInset, endInset, sideInset, endInset);
+    row->setSpacing(spacing);
+    row->addWidget(m_name, 0, Qt::AlignVCenter);
+    row->addStretch(1);
+    for (QWidget* const button : {static_cast<QWidget*>(update), static_cast<QWidget*>(refresh),
+                                  static_cast<QWidget*>(settings), static_cast<QWidget*>(quit)})
+        row->addWidget(button, 0, Qt::AlignVCenter);
+}
+
+void RefreshView::render()
+{
+    m_name->setSegments({{text(), secondaryLabelColor(palette())}});
+}
+
+} // namespace tarnwick

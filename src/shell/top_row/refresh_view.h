@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/repo_view_model.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace tarnwick {
+
+class BundleInfo;
+class StandardUpdaterController;
+class TextLine;
+
+/// The global controls at the top of the menu: the program's name with its build number, and the
+/// buttons to check for updates, refresh all repositories, open the settings and quit. Exactly 340
+/// wide. Stops the process if there is no build number.
+class RefreshView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    RefreshView(RepoViewModels models, std::unique_ptr<StandardUpdaterController> updaterController,
+                const BundleInfo& bundle, QWidget* parent = nullptr);
+    ~RefreshView() override;
+
+    /// What the row says besides its buttons.
+    [[nodiscard]] QString text() const;
+    [[nodiscard]] QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void settingsRequested();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void layOut();
+    void render();
+
+    const RepoViewModels m_models;
+    const std::unique_ptr<StandardUpdaterController> m_updaterController;
+    const QString m_buildNumber;
+    TextLine* m_name;
+};
+
+} // namespace tarnwick
