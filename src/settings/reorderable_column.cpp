@@ -151,9 +151,11 @@ void ReorderableColumn::makeCurrent(ReorderableRow* row)
     if (!row)
         return;
     row->setCurrent(true);
-    QWidget* previous = this;
-    setTabOrder(previous, row);
-    previous = row;
+    // Qt puts nothing behind a widget that takes no focus.
+    setFocusPolicy(Qt::TabFocus);
+    setTabOrder(this, row);
+    setFocusPolicy(Qt::NoFocus);
+    QWidget* previous = row;
     for (QAbstractButton* const button : row->findChildren<QAbstractButton*>()) {
         setTabOrder(previous, button);
         previous = button;

@@ -55,8 +55,12 @@ private:
 
     void markRows()
     {
-        for (std::size_t i = 0; i < m_items.size(); ++i)
-            rows()[i]->setDragged(m_forEach.isDragged(m_items[i]));
+        for (std::size_t i = 0; i < m_items.size(); ++i) {
+            const bool isDragged = m_forEach.isDragged(m_items[i]);
+            rows()[i]->setDragged(isDragged);
+            if (isDragged)
+                rows()[i]->raise();
+        }
     }
 
     ReorderableForEach<Item> m_forEach;

@@ -59,6 +59,7 @@ RepositoriesView::RepositoriesView(RepoManager& mgr, SettingsHost& host, QWidget
     : QWidget(parent)
     , m_mgr(mgr)
     , m_host(host)
+    , m_list(newList())
     , m_path(new PathField(this))
     , m_add(new QPushButton(tr("add repo"), this))
 {
@@ -74,11 +75,8 @@ RepositoriesView::RepositoriesView(RepoManager& mgr, SettingsHost& host, QWidget
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(inset, inset, inset, inset);
     column->setSpacing(spacing);
-    ReorderableColumn* const list = newList();
-    column->addWidget(new GreyFrame(list, 0, this), 1);
+    column->addWidget(new GreyFrame(m_list, 0, this), 1);
     column->addLayout(editor);
-    setTabOrder(list, m_path);
-    setTabOrder(m_path, m_add);
 }
 
 ReorderableColumn* RepositoriesView::newList()
@@ -130,6 +128,8 @@ void RepositoriesView::whileBusy(const std::function<void()>& change)
 {
     const bool hadFocus = m_add->hasFocus();
     QApplication::setOverrideCursor(Qt::WaitCursor);
+    // A button that is disabled would hand its focus on.
+    m_add->clearFocus();
     m_add->setEnabled(false);
     window()->repaint();
     change();

@@ -37,9 +37,11 @@ private:
 
     RepoManager& m_mgr;
     SettingsHost& m_host;
+    const bool m_allowReorder = true;
+    // Made in the order of the tab key.
+    ReorderableColumn* const m_list;
     QLineEdit* const m_path;
     QPushButton* const m_add;
-    bool m_allowReorder = true;
     /// Whose removal is being confirmed.
     std::shared_ptr<RepoViewModel> m_pressedRepoViewModel;
 };

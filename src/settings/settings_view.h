@@ -33,6 +33,8 @@ public:
 private:
     SettingsHost& m_host;
     const AppList m_vm;
+    /// Inert: no control shows it, and nothing stores it.
+    bool m_autoUpdate = false;
 };
 
 } // namespace tarnwick

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "settings/reorderable_for_each.h"
+#include "support/test_registry.h"
+
+#include <QTest>
+
+using namespace tarnwick;
+
+/// The reordering of a list of letters.
+class ReorderTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void drags_data();
+    void drags();
+    void staleDragMarksTheNextRow();
+    void switchedOff();
+};
+
+namespace {
+
+using Letters = ReorderableForEach<QChar>;
+
+struct List
+{
+    explicit List(QString letters, bool allowed = true)
+        : shown(std::move(letters))
+        , reorder({[this] { return Letters::Items(shown.cbegin(), shown.cend()); },
+                   [this](const Letters::Items& items) { shown = text(items); },
+                   [this](const Letters::Items& items) { stored = text(items); }},
+                  [allowed] { return allowed; })
+    {}
+
+    static QString text(const Letters::Items& items)
+    {
+        return QString(items.data(), static_cast<qsizetype>(items.size()));
+    }
+    [[nodiscard]] QString marked() const
+    {
+        QString letters;
+        std::ranges::copy_if(shown, std::back_inserter(letters),
+                             [this](QChar letter) { return reorder.isDragged(letter); });
+        return letters;
+    }
+
+    QString shown;
+    QString stored;
+    Letters reorder;
+};
+
+} // namespace
+
+void ReorderTest::drags_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QChar>("dragged");
+    QTest::addColumn<QString>("entered");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("marked");
+    const auto row = [](const char* name, const QString& before, QChar dragged,
+                        const QString& entered, const QString& after, const QString& marked) {
+        QTest::newRow(name) << before << dragged << entered << after << marked;
+    };
+    row("third of five to the first", u"abcde"_qs, u'c', u"a"_qs, u"cabde"_qs, u"c"_qs);
+    row("first of three to the third", u"abc"_qs, u'a', u"c"_qs, u"bca"_qs, u"a"_qs);
+    row("to the neighbour and back", u"abc"_qs, u'a', u"bab"_qs, u"abc"_qs, u"a"_qs);
+    row("down row by row", u"abcd"_qs, u'a', u"bacad"_qs, u"bcda"_qs, u"a"_qs);
+    row("over its own row", u"abc"_qs, u'b', u"bb"_qs, u"abc"_qs, u""_qs);
+    row("not left at all", u"abc"_qs, u'b', u""_qs, u"abc"_qs, u""_qs);
+    row("of equals the first moves", u"aba"_qs, u'a', u"b"_qs, u"baa"_qs, u"aa"_qs);
+    row("of equals the first is gone to", u"abb"_qs, u'a', u"b"_qs, u"bab"_qs, u"a"_qs);
+    row("its item is gone", u"abc"_qs, u'x', u"b"_qs, u"abc"_qs, u""_qs);
+    row("the row's item is gone", u"abc"_qs, u'a', u"x"_qs, u"abc"_qs, u""_qs);
+}
+
+void ReorderTest::drags()
+{
+    QFETCH(QString, before);
+    QFETCH(QChar, dragged);
+    QFETCH(QString, entered);
+    QFETCH(QString, after);
+    List list(before);
+    list.reorder.dropDelegate(before[0])->dropEntered();
+    QCOMPARE(list.shown, before);
+
+    QCOMPARE(list.reorder.onDrag(dragged), QString::number(qHash(dragged)));
+    QCOMPARE(list.marked(), QString());
+    for (const QChar letter : entered) {
+        const auto row = list.reorder.dropDelegate(letter);
+        QVERIFY(row->validateDrop());
+        row->dropEntered();
+        QCOMPARE(row->dropUpdated(), Qt::MoveAction);
+        row->dropExited();
+    }
+    // So it stays when the drag ends outside.
+    QCOMPARE(list.shown, after);
+    QTEST(list.marked(), "marked");
+    QCOMPARE(list.stored, QString());
+
+    QVERIFY(list.reorder.dropDelegate(after[0])->performDrop());
+    QCOMPARE(list.stored, after);
+    QCOMPARE(list.marked(), QString());
+    QVERIFY(!list.reorder.draggedItem);
+}
+
+void ReorderTest::staleDragMarksTheNextRow()
+{
+    List list(u"abc"_qs);
+    list.reorder.onDrag(u'a');
+    list.reorder.dropDelegate(u'b')->dropEntered();
+    list.reorder.onDrag(u'c');
+    QCOMPARE(list.marked(), u"c"_qs);
+}
+
+void ReorderTest::switchedOff()
+{
+    List list(u"abc"_qs, false);
+    QVERIFY(!list.reorder.dropDelegate(u'b'));
+    list.reorder.draggedItem = u'b';
+    list.reorder.hasChangedLocation = true;
+    QCOMPARE(list.marked(), QString());
+}
+
+TARNWICK_TEST(ReorderTest)
+
+#include "reorder_test.moc"

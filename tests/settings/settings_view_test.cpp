@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "settings/app_list.h"
+#include "settings/settings_fixture.h"
+#include "support/test_registry.h"
+#include "views/app_icon.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+using namespace tarnwick;
+using namespace tarnwick::test;
+
+namespace {
+
+template <typename Button = QCheckBox>
+Button* buttonNamed(const QWidget& view, const QString& text)
+{
+    for (auto* button : view.findChildren<Button*>()) {
+        if (button->text() == text)
+            return button;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class SettingsViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void optionsFollowTheStore();
+    void savingClosesOnlyTheKeyWindow();
+    void listsApplications_data();
+    void listsApplications();
+    void switchesApplications();
+};
+
+void SettingsViewTest::optionsFollowTheStore()
+{
+    SettingsFixture f;
+    const auto one = f.view();
+    const auto other = f.view();
+    const QString launch = u"Launch on startup"_qs;
+    const QString icons = u"Use only icons in repo statuses"_qs;
+    QVERIFY(buttonNamed(*one, launch)->isChecked());
+    QVERIFY(buttonNamed(*one, u"Show clean repo status"_qs)->isChecked());
+    QVERIFY(!buttonNamed(*one, icons)->isChecked());
+    QVERIFY(!buttonNamed(*one, u"Refresh repos automatically when menu is opened"_qs)->isChecked());
+    const auto labels = one->findChildren<QLabel*>();
+    QVERIFY(std::ranges::any_of(labels, [](auto* l) { return l->text() == u"version 42"; }));
+
+    f.bench.store.setBool(true, u"onyIcons"_qs);
+    QVERIFY(buttonNamed(*one, icons)->isChecked());
+    buttonNamed(*one, icons)->click();
+    QVERIFY(!buttonNamed(*other, icons)->isChecked());
+    QCOMPARE(f.bench.store.dictionaryRepresentation(), (QVariantMap{{u"onyIcons"_qs, false}}));
+    QCOMPARE(f.host.logins, QList<bool>());
+
+    buttonNamed(*one, launch)->click();
+    QVERIFY(!buttonNamed(*other, launch)->isChecked());
+    f.bench.store.setBool(false, u"launchOnStartup"_qs);
+    buttonNamed(*other, launch)->click();
+    QCOMPARE(f.host.logins, (QList<bool>{false, true}));
+    QCOMPARE(f.host.rebuilds, 0);
+}
+
+void SettingsViewTest::savingClosesOnlyTheKeyWindow()
+{
+    SettingsFixture f;
+    const auto one = f.view();
+    const auto other = f.view();
+    one->show();
+    other->show();
+    other->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(other.get()));
+    QCOMPARE(other->size(), QSize(600, 600));
+    buttonNamed<QPushButton>(*other, u"Save and close settings"_qs)->click();
+    QCOMPARE(f.host.rebuilds, 1);
+    QVERIFY(!other->isVisible());
+    QVERIFY(one->isVisible());
+}
+
+void SettingsViewTest::listsApplications_data()
+{
+    QTest::addColumn<QStringList>("system");
+    QTest::addColumn<QStringList>("user");
+    QTest::addColumn<QStringList>("expected");
+    const QStringList unreadable{u"unreadable"_qs};
+
+    QTest::newRow("by character code, applications only")
+        << QStringList{u"b.app"_qs, u"notes.txt"_qs, u"Utilities"_qs, u"A.app"_qs, u"C.APP"_qs}
+        << QStringList() << QStringList{u"A.app"_qs, u"b.app"_qs};
+    QTest::newRow("one part after the other, doubles too")
+        << QStringList{u"z.app"_qs, u"m.app"_qs} << QStringList{u"m.app"_qs, u"a.app"_qs}
+        << QStringList{u"m.app"_qs, u"z.app"_qs, u"a.app"_qs, u"m.app"_qs};
+    QTest::newRow("unreadable") << QStringList{u"a.app"_qs} << unreadable
+                                << QStringList{u"a.app"_qs, u"Unable to read %1/user/*.app"_qs};
+    QTest::newRow("both unreadable")
+        << unreadable << unreadable
+        << QStringList{u"Unable to read %1/system/*.app"_qs, u"Unable to read %1/user/*.app"_qs};
+}
+
+void SettingsViewTest::listsApplications()
+{
+    QFETCH(QStringList, system);
+    QFETCH(QStringList, user);
+    QFETCH(QStringList, expected);
+    SettingsFixture f;
+    for (const auto& [path, names] : {std::pair(f.system.path(), system), {f.user.path(), user}}) {
+        const bool isReadable = names != QStringList{u"unreadable"_qs};
+        for (const QString& name : isReadable ? names + QStringList{u"."_qs} : QStringList())
+            QVERIFY(QDir().mkpath(path + name));
+    }
+    expected.replaceInStrings(u"%1"_qs, f.bench.folder.path());
+    QCOMPARE(AppList(f.system, f.user).list(), expected);
+}
+
+void SettingsViewTest::switchesApplications()
+{
+    SettingsFixture f;
+    const QString name = u"R & D.app"_qs;
+    QVERIFY(QDir(f.bench.folder.path()).mkpath(u"user/"_qs + name));
+    f.bench.store.setBool(true, u"showinapps___"_qs + name);
+    const auto view = f.view();
+    QCheckBox* box = nullptr;
+    for (auto* each : view->findChildren<QCheckBox*>()) {
+        if (each->accessibleName() == name)
+            box = each;
+    }
+    QVERIFY(box && box->isChecked());
+    box->click();
+    QVERIFY(!f.bench.store.boolForKey(u"showinapps___"_qs + name));
+    QVERIFY(!appIcon(name, f.system, f.user).isNull());
+    QVERIFY(appIcon(u"None.app"_qs, f.system, f.user).isNull());
+}
+
+TARNWICK_TEST(SettingsViewTest)
+
+#include "settings_view_test.moc"
