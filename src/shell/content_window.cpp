@@ -6,17 +6,22 @@
 
 namespace tarnwick {
 
+void showWindow(std::unique_ptr<QWidget> window, const QString& title)
+{
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowTitle(title);
+    window->show();
+    window->raise();
+    window.release()->activateWindow();
+}
+
 void showInWindow(std::unique_ptr<QWidget> content, const QString& title)
 {
     // A main window, because assistive technology takes a plain widget for a part of one.
-    auto* const window = new QMainWindow;
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    window->setWindowTitle(title);
+    auto window = std::make_unique<QMainWindow>();
     window->setCentralWidget(content.release());
     window->layout()->setSizeConstraint(QLayout::SetMinAndMaxSize);
-    window->show();
-    window->raise();
-    window->activateWindow();
+    showWindow(std::move(window), title);
 }
 
 } // namespace tarnwick

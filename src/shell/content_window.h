@@ -9,8 +9,11 @@ class QWidget;
 
 namespace tarnwick {
 
-/// Shows the content as a window of its own, in front and with the keyboard. The window owns itself
-/// from then on and goes when it is closed.
+/// Shows a window in front and with the keyboard. It owns itself from then on and goes when it is
+/// closed.
+void showWindow(std::unique_ptr<QWidget> window, const QString& title);
+
+/// The same for what is no window by itself, in a window that takes its size.
 void showInWindow(std::unique_ptr<QWidget> content, const QString& title);
 
 } // namespace tarnwick

@@ -42,7 +42,8 @@ void RepositoryActionsTest::remoteBecomesWebAddress_data()
     row("https", u"https://github.com/owner/repo.git\n"_qs, u"https://github.com/owner/repo"_qs);
     row("host that does not end in com", u"git@gitlab.gnome.org:owner/repo.git"_qs,
         u"https://gitlab.gnome.org:owner/repo"_qs);
-    row("ssh with a port", u"ssh://git@gitlab.com:22/o/r.git"_qs, u"ssh://https://gitlab.com/22/o/r"_qs);
+    row("ssh with a port", u"ssh://git@gitlab.com:22/o/r.git"_qs,
+        u"ssh://https://gitlab.com/22/o/r"_qs);
     row("only in the name", u"git@example.com:me/github-notes.git"_qs,
         u"https://example.com/me/github-notes"_qs);
     row(".git within the name", u"https://github.com/o/a.github.io.git"_qs,
@@ -80,8 +81,8 @@ void RepositoryActionsTest::linksAreReadAsTyped_data()
     QTest::newRow("empty lines") << u"\nhttp://a @@ Docs\n\n"_qs
                                  << Links{{u"http://a"_qs, u"Docs"_qs}};
     QTest::newRow("second separator") << u"a @@ b @@ c"_qs << Links{{u"a"_qs, u"b"_qs}};
-    QTest::newRow("spaces belong") << u" a  @@  b \r\nc @@ "_qs
-                                   << Links{{u" a "_qs, u" b \r"_qs}, {u"c"_qs, {}}};
+    QTest::newRow("spaces belong")
+        << u" a  @@  b \r\nc @@ "_qs << Links{{u" a "_qs, u" b \r"_qs}, {u"c"_qs, {}}};
     QTest::newRow("empty text") << QString() << Links();
 }
 
@@ -111,7 +112,8 @@ void RepositoryActionsTest::terminalIsTold_data()
                           << QStringList{u"git"_qs, u"pull"_qs};
     QTest::newRow("stash") << &RepoViewModel::stash << u"cd '/tmp/x' && git stash"_qs
                            << QStringList{u"git"_qs, u"stash"_qs};
-    QTest::newRow("terminal") << &RepoViewModel::startTerminal << u"cd '/tmp/x'"_qs << QStringList();
+    QTest::newRow("terminal") << &RepoViewModel::startTerminal << u"cd '/tmp/x'"_qs
+                              << QStringList();
 }
 
 void RepositoryActionsTest::terminalIsTold()
@@ -132,8 +134,9 @@ void RepositoryActionsTest::terminalIsTold()
 void RepositoryActionsTest::projectsOfTwoLevelsAreFound()
 {
     const QTemporaryDir root;
-    for (const auto* folder : {"App.xcodeproj/project.xcworkspace", "ios/My Other.xcworkspace",
-                               "ios/deep/Far.xcodeproj", ".build/Hidden.xcodeproj", "a#b.xcodeproj"})
+    for (const auto* folder :
+         {"App.xcodeproj/project.xcworkspace", "ios/My Other.xcworkspace", "ios/deep/Far.xcodeproj",
+          ".build/Hidden.xcodeproj", "a#b.xcodeproj"})
         QVERIFY(QDir(root.path()).mkpath(QString::fromLatin1(folder)));
     writeFile(root.filePath(u"File.xcodeproj"_qs), "a file has no slash to drop");
 

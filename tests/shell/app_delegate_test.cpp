@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "model/repo_manager.h"
+#include "platform/plain_application_folder.h"
 #include "platform/platform.h"
 #include "platform/tray_host.h"
 #include "shell/app_delegate.h"
@@ -45,6 +46,9 @@ void AppDelegateTest::rebuildReplacesTheMenuAsAWhole()
 {
     Platform platform;
     platform.trayHost = std::make_unique<NoTrayHost>();
+    platform.systemApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_qs);
+    platform.userApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_qs);
+    platform.bundleInfo = {{u"CFBundleVersion"_qs, u"42"_qs}};
     Workbench bench;
     bench.store.setObject(u"/nonexistent/a"_qs, u"repos"_qs);
     AppDelegate delegate(platform, bench.store, bench.services());

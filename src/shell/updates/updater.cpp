@@ -32,7 +32,7 @@ void Updater::checkForUpdates()
     setChecking(true);
     auto window = std::make_unique<UpdateWindow>(m_settings);
     connect(window.get(), &QObject::destroyed, this, [this] { setChecking(false); });
-    showInWindow(std::move(window), UpdateWindow::tr("Software Update"));
+    showWindow(std::move(window), UpdateWindow::tr("Software Update"));
 }
 
 void Updater::setChecking(bool isChecking)

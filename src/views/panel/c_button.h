@@ -16,11 +16,11 @@ struct CButton
 {
     /// Reserved: entries look the same with the pointer over them.
     bool isHovered = false;
-    EntryImage img;
+    EntryImage img = {};
     /// The compact variant: a smaller icon, further in.
     bool small = false;
     /// Shown verbatim.
-    QString title;
+    QString title = {};
     /// A second, grey line; a blank one if empty.
     std::optional<QString> sub = std::nullopt;
     /// Of icon and title; the label colour if absent.
