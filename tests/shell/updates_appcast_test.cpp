@@ -104,6 +104,8 @@ void UpdatesAppcastTest::feeds_data()
     QTest::newRow("something after it") << items({}) + "<rss/>" << u"no feed"_qs;
     QTest::newRow("web page") << QByteArray("<!DOCTYPE html><html><body>Sign in</body></html>")
                               << u"no feed"_qs;
+    QTest::newRow("very deep") << start + "<item>" + QByteArray("<description>").repeated(300'000)
+                               << u"no feed"_qs;
     QTest::newRow("empty") << QByteArray() << u"no feed"_qs;
     QTest::newRow("harmless document type") << "<!DOCTYPE rss>" + items({}) << u"9"_qs;
     QTest::newRow("entities")

@@ -45,9 +45,21 @@ Enclosure enclosureFrom(const QXmlStreamAttributes& attributes)
             .signature = own(u"edSignature").toLatin1()};
 }
 
+/// The text of an element and of all in it. The reader's own function calls itself for each level,
+/// so that many levels would end the process.
 QString textOf(QXmlStreamReader& xml)
 {
-    return xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed();
+    QString text;
+    for (int depth = 1; depth > 0 && !xml.atEnd();) {
+        xml.readNext();
+        if (xml.isStartElement())
+            ++depth;
+        else if (xml.isEndElement())
+            --depth;
+        else if (xml.isCharacters())
+            text += xml.text();
+    }
+    return text.trimmed();
 }
 
 void readSparkleElement(QXmlStreamReader& xml, RawItem& raw)
@@ -71,7 +83,7 @@ void readPlainElement(QXmlStreamReader& xml, RawItem& raw)
     if (xml.name() == u"description") {
         raw.item.notesArePlainText =
             xml.attributes().value(sparkle.toString(), u"format"_qs) == u"plain-text";
-        raw.item.notes = xml.readElementText(QXmlStreamReader::IncludeChildElements).trimmed();
+        raw.item.notes = textOf(xml);
     } else if (xml.name() == u"enclosure") {
         raw.enclosures += enclosureFrom(xml.attributes());
         xml.skipCurrentElement();

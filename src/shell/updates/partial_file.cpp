@@ -22,7 +22,14 @@ bool PartialFile::open()
 
 bool PartialFile::write(const QByteArray& bytes)
 {
-    return m_file.write(bytes) == bytes.size();
+    // A full disk takes a part without complaint; only the next try says why.
+    for (qint64 written = 0; written < bytes.size();) {
+        const qint64 now = m_file.write(bytes.constData() + written, bytes.size() - written);
+        if (now <= 0)
+            return false;
+        written += now;
+    }
+    return true;
 }
 
 bool PartialFile::flush()

@@ -36,6 +36,12 @@ int statusOf(const QNetworkReply& reply)
     return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
+QString siteOf(const QUrl& url)
+{
+    return url.toDisplayString(QUrl::RemoveUserInfo | QUrl::RemovePath | QUrl::RemoveQuery |
+                               QUrl::RemoveFragment);
+}
+
 QString failureOf(const QNetworkReply& reply)
 {
     const QString host = reply.url().host();
@@ -76,7 +82,7 @@ Transfer::~Transfer()
 void Transfer::start(const QUrl& url)
 {
     if (!isTrustedAddress(url))
-        return fail(tr("The address is not secure: %1").arg(url.toDisplayString()));
+        return fail(tr("The address is not secure: %1").arg(siteOf(url)));
 
     m_reply = m_network.get(requestFor(url));
     connect(m_reply, &QNetworkReply::readyRead, this, &Transfer::read);
@@ -100,7 +106,7 @@ void Transfer::follow(const QUrl& target)
         return fail(tr("The server %1 redirects without end.").arg(host));
     if (!isTrustedAddress(target)) {
         return fail(tr("The server %1 redirects to an address that is not secure: %2")
-                        .arg(host, target.toDisplayString()));
+                        .arg(host, siteOf(target)));
     }
     stop();
     start(target);

@@ -5,11 +5,12 @@
 #include "shell/updates/update_window_texts.h"
 #include "shell/updates/web_page.h"
 
-#include <QCoreApplication>
 #include <QDialogButtonBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace tarnwick {
@@ -18,6 +19,7 @@ namespace {
 
 constexpr int windowWidth = 480;
 constexpr int notesHeight = 240;
+constexpr int notesInset = 8;
 constexpr int inset = 20;
 constexpr int spacing = 12;
 constexpr double headingScale = 1.25;
@@ -56,6 +58,7 @@ UpdateWindow::UpdateWindow(UpdateSettings settings, QWidget* parent)
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &QWidget::close);
 
     render();
+    moveToCenter();
     m_session.start();
 }
 
@@ -68,6 +71,7 @@ void UpdateWindow::layOut()
     m_progress->setTextVisible(false);
     m_progress->setAccessibleName(tr("Progress"));
     m_notes->setMinimumHeight(notesHeight);
+    m_notes->document()->setDocumentMargin(notesInset);
     m_notesLink->setText(QStringLiteral("<a href=\"notes\">%1</a>")
                              .arg(tr("Release notes on the web").toHtmlEscaped()));
     m_notesLink->setTextInteractionFlags(Qt::LinksAccessibleByMouse |
@@ -85,8 +89,19 @@ void UpdateWindow::layOut()
     layout->addWidget(m_detail);
     layout->addWidget(m_notes, 1);
     layout->addWidget(m_notesLink);
+    layout->addStretch();
     layout->addWidget(buttons);
     setMinimumWidth(windowWidth);
+}
+
+/// Leaves room to grow for the notes. The place has to be known before the window is shown: a size
+/// that changes while the window manager is still looking for one would lead it into a corner.
+void UpdateWindow::moveToCenter()
+{
+    const QScreen* const pointed = QGuiApplication::screenAt(QCursor::pos());
+    QRect grown({}, QSize(width(), height() + notesHeight));
+    grown.moveCenter((pointed ? pointed : screen())->availableGeometry().center());
+    move(grown.topLeft());
 }
 
 void UpdateWindow::render()
@@ -114,7 +129,8 @@ void UpdateWindow::render()
     QPushButton* const button = isOffering ? m_download : m_dismiss;
     button->setDefault(true);
     button->setFocus();
-    adjustSize();
+    layout()->activate();
+    resize(windowWidth, layout()->totalHeightForWidth(windowWidth));
 }
 
 void UpdateWindow::renderOffer()

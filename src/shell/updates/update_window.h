@@ -24,6 +24,7 @@ public:
 
 private:
     void layOut();
+    void moveToCenter();
     void render();
     void renderOffer();
     void renderProgress();
