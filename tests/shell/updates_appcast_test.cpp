@@ -21,11 +21,8 @@ private Q_SLOTS:
     void feeds_data();
     void feeds();
     void everyFieldIsRead();
-    void addresses_data();
     void addresses();
-    void fileNames_data();
     void fileNames();
-    void namesInUseAreNumbered();
 };
 
 void UpdatesAppcastTest::versions_data()
@@ -69,52 +66,38 @@ void UpdatesAppcastTest::feeds_data()
     const QByteArray start =
         R"(<rss xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel>)";
     const QByteArray end = "</channel></rss>";
-    const QByteArray nine = "<item><sparkle:version>9</sparkle:version></item>";
-    const auto items = [&](const QByteArray& more) { return start + more + nine + end; };
+    const QByteArray ten = "<sparkle:version>10</sparkle:version>";
+    const auto row = [](const char* name, const QByteArray& feed, const char* newest) {
+        QTest::newRow(name) << feed << QString::fromLatin1(newest);
+    };
+    /// What stands in one item, beside another of version 9.
+    const auto item = [&](const QByteArray& content) {
+        return start + "<item>" + content +
+               "</item><item><sparkle:version>9</sparkle:version></item>" + end;
+    };
 
-    QTest::newRow("highest") << items("<item><sparkle:version>10</sparkle:version></item>")
-                             << u"10"_qs;
-    QTest::newRow("attribute") << items(R"(<item><enclosure sparkle:version="10"/></item>)")
-                               << u"10"_qs;
-    QTest::newRow("another channel")
-        << items("<item><sparkle:version>10</sparkle:version><sparkle:channel>beta"
-                 "</sparkle:channel></item>")
-        << u"9"_qs;
-    QTest::newRow("another system")
-        << items("<item><sparkle:version>10</sparkle:version><sparkle:os>macos</sparkle:os></item>")
-        << u"9"_qs;
-    QTest::newRow("only enclosures of others")
-        << items(R"(<item><enclosure sparkle:version="10" sparkle:os="windows"/></item>)")
-        << u"9"_qs;
-    QTest::newRow("second enclosure")
-        << items(R"(<item><enclosure sparkle:version="11" sparkle:os="windows"/>
-                    <enclosure sparkle:version="10" sparkle:os="Linux"/></item>)")
-        << u"10"_qs;
-    QTest::newRow("deltas")
-        << items(
-               R"(<item><sparkle:deltas><enclosure sparkle:version="10"/></sparkle:deltas></item>)")
-        << u"9"_qs;
-    QTest::newRow("foreign elements")
-        << items("<item><version>10</version><x:version xmlns:x='urn:x'>11</x:version></item>")
-        << u"9"_qs;
-    QTest::newRow("nothing newer")
-        << start + "<item><sparkle:version>8.0</sparkle:version></item>" + end << u"none"_qs;
-    QTest::newRow("no item") << start + end << u"no feed"_qs;
-    QTest::newRow("truncated") << (start + nine + "<item>") << u"no feed"_qs;
-    QTest::newRow("something after it") << items({}) + "<rss/>" << u"no feed"_qs;
-    QTest::newRow("web page") << QByteArray("<!DOCTYPE html><html><body>Sign in</body></html>")
-                              << u"no feed"_qs;
-    QTest::newRow("very deep") << start + "<item>" + QByteArray("<description>").repeated(300'000)
-                               << u"no feed"_qs;
-    QTest::newRow("empty") << QByteArray() << u"no feed"_qs;
-    QTest::newRow("harmless document type") << "<!DOCTYPE rss>" + items({}) << u"9"_qs;
-    QTest::newRow("entities")
-        << R"(<!DOCTYPE rss [<!ENTITY a "aaaaaaaa"><!ENTITY b "&a;&a;&a;&a;&a;&a;&a;&a;">]>)" +
-               items("<title>&b;</title>")
-        << u"no feed"_qs;
-    QTest::newRow("parameter entities")
-        << R"(<!DOCTYPE rss [<!ENTITY % a SYSTEM "file:///etc/hostname"> %a;]>)" + items({})
-        << u"no feed"_qs;
+    row("highest", item(ten), "10");
+    row("attribute", item("<enclosure sparkle:version='10'/>"), "10");
+    row("another channel", item(ten + "<sparkle:channel>beta</sparkle:channel>"), "9");
+    row("another system", item(ten + "<sparkle:os>macos</sparkle:os>"), "9");
+    row("enclosure of another", item(ten + "<enclosure sparkle:os='windows'/>"), "9");
+    row("second enclosure",
+        item("<enclosure sparkle:os='windows'/><enclosure sparkle:version='10' "
+             "sparkle:os='Linux'/>"),
+        "10");
+    row("deltas", item("<sparkle:deltas><enclosure sparkle:version='10'/></sparkle:deltas>"), "9");
+    row("foreign", item("<version>10</version><x:version xmlns:x='urn:x'>10</x:version>"), "9");
+    row("nothing newer", start + "<item><sparkle:version>8.0</sparkle:version></item>" + end,
+        "none");
+    row("no item", start + end, "no feed");
+    row("truncated", start + "<item>" + ten + "</item><item>", "no feed");
+    row("something after it", item(ten) + "<rss/>", "no feed");
+    row("very deep", start + "<item>" + QByteArray("<description>").repeated(300'000), "no feed");
+    row("web page", "<!DOCTYPE html><html><body>Sign in</body></html>", "no feed");
+    row("harmless document type", "<!DOCTYPE rss>" + item(ten), "10");
+    row("entities", "<!DOCTYPE rss [<!ENTITY a 'a'><!ENTITY b '&a;&a;'>]>" + item(ten), "no feed");
+    row("parameter entity",
+        "<!DOCTYPE rss [<!ENTITY % a SYSTEM 'file:///etc/hostname'> %a;]>" + item(ten), "no feed");
 }
 
 void UpdatesAppcastTest::feeds()
@@ -149,54 +132,38 @@ void UpdatesAppcastTest::everyFieldIsRead()
     QCOMPARE(item.signature, "c2ln");
 }
 
-void UpdatesAppcastTest::addresses_data()
-{
-    QTest::addColumn<bool>("isTrusted");
-
-    for (const char* const url :
-         {"https://example.org/a", "http://127.9.8.7:80/a", "http://[::1]/a", "http://LOCALHOST/a"})
-        QTest::newRow(url) << true;
-    for (const char* const url :
-         {"", "http://example.org/a", "http://localhost.example.org/", "http://127.0.0.1.nip.io/",
-          "http://localhost@example.org/", "http://0.0.0.0/", "ftp://localhost/a",
-          "file:///etc/passwd", "https:///a", "//localhost/a"})
-        QTest::newRow(url) << false;
-}
-
 void UpdatesAppcastTest::addresses()
 {
-    QTEST(isTrustedAddress(QUrl(QString::fromLatin1(QTest::currentDataTag()))), "isTrusted");
-}
-
-void UpdatesAppcastTest::fileNames_data()
-{
-    QTest::addColumn<QString>("fileName");
-
-    QTest::newRow("a/b/Tarnwick%201.3.deb?x=/y#/z") << u"Tarnwick 1.3.deb"_qs;
-    QTest::newRow("a/..%2F..%2F.bashrc") << u"bashrc"_qs;
-    QTest::newRow("..%5C..%5Cautorun.inf") << u"autorun.inf"_qs;
-    QTest::newRow("%2e%2e") << u"Tarnwick update"_qs;
-    QTest::newRow("a/") << u"Tarnwick update"_qs;
-    QTest::newRow("a%0A%00b%7F%E2%80%AEc.deb ") << u"abc.deb"_qs;
+    for (const auto& url : {u"https://example.org/a", u"http://127.9.8.7:80/a", u"http://[::1]/a",
+                            u"http://LOCALHOST/a"})
+        QVERIFY2(isTrustedAddress(QUrl(QString::fromUtf16(url))),
+                 qPrintable(QString::fromUtf16(url)));
+    for (const auto& url :
+         {u"", u"http://example.org/a", u"http://localhost.example.org/", u"ftp://localhost/a",
+          u"http://127.0.0.1.nip.io/", u"http://localhost@example.org/", u"http://0.0.0.0/",
+          u"file:///etc/passwd", u"https:///a", u"//localhost/a"})
+        QVERIFY2(!isTrustedAddress(QUrl(QString::fromUtf16(url))),
+                 qPrintable(QString::fromUtf16(url)));
 }
 
 void UpdatesAppcastTest::fileNames()
 {
-    const auto path = QString::fromLatin1(QTest::currentDataTag());
-    QTEST(safeFileName(QUrl(u"https://example.org/"_qs + path)), "fileName");
-}
+    const auto nameOf = [](const QString& path) {
+        return safeFileName(QUrl(u"https://example.org/"_qs + path));
+    };
+    QCOMPARE(nameOf(u"a/b/Tarnwick%201.3.deb?x=/y#/z"_qs), u"Tarnwick 1.3.deb"_qs);
+    QCOMPARE(nameOf(u"a/..%2F..%2F.bashrc"_qs), u"bashrc"_qs);
+    QCOMPARE(nameOf(u"..%5C..%5Cautorun.inf"_qs), u"autorun.inf"_qs);
+    QCOMPARE(nameOf(u"%2e%2e"_qs), u"Tarnwick update"_qs);
+    QCOMPARE(nameOf(u"a/"_qs), u"Tarnwick update"_qs);
+    QCOMPARE(nameOf(u"a%0A%00b%7F%E2%80%AEc.deb"_qs), u"abc.deb"_qs);
 
-void UpdatesAppcastTest::namesInUseAreNumbered()
-{
     const QTemporaryDir folder;
-    const QString longName =
-        safeFileName(QUrl(u"https://example.org/"_qs + QString(300, u'\u00e4') + u".tar.gz"_qs));
-    QVERIFY(longName.endsWith(u"\u00e4.tar.gz"_qs));
-    writeFile(folder.filePath(longName), "1");
-    const QString second = unusedPath(folder.path(), longName);
-    QVERIFY(second.endsWith(u" (2).tar.gz"_qs));
-    QVERIFY(QFile::link(u"/nonexistent"_qs, second));
-    QVERIFY(unusedPath(folder.path(), longName).endsWith(u" (3).tar.gz"_qs));
+    const QString name = nameOf(QString(300, u'\u00e4') + u".tar.gz"_qs);
+    QVERIFY(name.endsWith(u"\u00e4.tar.gz"_qs));
+    writeFile(folder.filePath(name), "in use");
+    QVERIFY(QFile::link(u"/nonexistent"_qs, unusedPath(folder.path(), name)));
+    QVERIFY(unusedPath(folder.path(), name).endsWith(u"\u00e4 (3).tar.gz"_qs));
 }
 
 TARNWICK_TEST(UpdatesAppcastTest)
