@@ -86,12 +86,10 @@ const FreedesktopApplicationFolder::Reading& FreedesktopApplicationFolder::readi
 {
     if (m_reading)
         return *m_reading;
-    m_reading.emplace();
-    if (const auto entries = shownDesktopEntries(m_place)) {
-        m_reading->succeeded = true;
-        for (const DesktopEntry& entry : *entries)
-            m_reading->iconByName.insert(entry.name + QStringLiteral(".app"), entry.icon);
-    }
+    const auto entries = shownDesktopEntries(m_place);
+    m_reading = Reading{entries.has_value(), {}};
+    for (const DesktopEntry& entry : entries.value_or(QList<DesktopEntry>()))
+        m_reading->iconByName.insert(entry.name + QStringLiteral(".app"), entry.icon);
     QMetaObject::invokeMethod(
         &m_turn, [this] { m_reading.reset(); }, Qt::QueuedConnection);
     return *m_reading;

@@ -24,7 +24,7 @@ public:
 private:
     struct Reading
     {
-        bool succeeded = false;
+        bool succeeded;
         QHash<QString, QString> iconByName;
     };
 
