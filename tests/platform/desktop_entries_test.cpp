@@ -3,15 +3,14 @@
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 
-#include <QCoreApplication>
 #include <QPixmap>
-#include <QTest>
 
 #include <sys/stat.h>
 
 using namespace tarnwick;
 using namespace tarnwick::test;
 
+/// The system has the data folders a and b, the user has one called own.
 class DesktopEntriesTest : public QObject
 {
     Q_OBJECT
@@ -26,21 +25,11 @@ private Q_SLOTS:
     void icons();
 
 private:
-    using Files = QMap<QString, QByteArray>;
+    QString path(const QString& name) const { return m_root->filePath(name); }
 
-    void install(const Files& files) const
+    void install(const QString& file, const QByteArray& keys) const
     {
-        for (auto file = files.begin(); file != files.end(); ++file)
-            writeFile(m_root->filePath(file.key()),
-                      "[Desktop Entry]\nType=Application\nExec=true %U\n" + file.value());
-    }
-
-    static QStringList sortedEntries(DesktopEntryPlace place)
-    {
-        QStringList names =
-            FreedesktopApplicationFolder(place).entries().value_or(QStringList{u"unreadable"_qs});
-        names.sort();
-        return names;
+        writeFile(path(file), "[Desktop Entry]\nType=Application\nExec=true\n" + keys + '\n');
     }
 
     std::unique_ptr<QTemporaryDir> m_root;
@@ -49,87 +38,71 @@ private:
 void DesktopEntriesTest::init()
 {
     m_root = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_root->filePath(u"own"_qs)));
-    qputenv("XDG_DATA_DIRS",
-            QFile::encodeName(m_root->filePath(u"a"_qs) + u':' + m_root->filePath(u"b"_qs)));
-    qputenv("XDG_CURRENT_DESKTOP", "Tarn:GNOME"); // the first call makes it last
+    qputenv("XDG_DATA_HOME", path(u"own"_qs).toUtf8());
+    qputenv("XDG_DATA_DIRS", (path(u"a"_qs) + u':' + path(u"b"_qs)).toUtf8());
+    qputenv("XDG_CURRENT_DESKTOP", "Tarn:GNOME");
     qputenv("LANGUAGE", "de");
-    for (const auto* place : {u"own", u"a"})
-        QDir().mkpath(m_root->filePath(QString::fromUtf16(place)) + u"/applications"_qs);
 }
 
 void DesktopEntriesTest::lists_data()
 {
-    QTest::addColumn<Files>("files");
-    QTest::addColumn<QStringList>("system");
-    QTest::addColumn<QStringList>("own");
-    const auto row = [](const char* name, const Files& files, const QStringList& system,
-                        const QStringList& own = {}) {
-        QTest::newRow(name) << files << system << own;
+    QTest::addColumn<QByteArray>("keys");
+    QTest::addColumn<QString>("otherFile");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const QByteArray& keys, const QString& otherFile, const QString& expected) {
+        QTest::addRow("%s beside %s", keys.simplified().constData(), qPrintable(otherFile))
+            << keys << otherFile << expected;
     };
-    const QString x = u"a/applications/x.desktop"_qs;
-    const QString later = u"b/applications/x.desktop"_qs;
-    const QString own = u"own/applications/x.desktop"_qs;
-
-    row("nothing installed", {}, {});
-    row("name in its own language", {{x, "Name=Text Editor\nName[de]=Texteditor\n"}},
-        {u"Text Editor.app"_qs});
-    row("letters and a slash", {{x, "Name=TCP/IP \303\274ber\n"}}, {u"TCP/IP \u00fcber.app"_qs});
-    row("hidden", {{x, "Name=X\nHidden=true\n"}}, {});
-    row("not to display", {{x, "Name=X\nNoDisplay=true\n"}}, {});
-    row("for this desktop only", {{x, "Name=X\nOnlyShowIn=KDE;GNOME;\n"}}, {u"X.app"_qs});
-    row("for another desktop only", {{x, "Name=X\nOnlyShowIn=KDE;\n"}}, {});
-    row("not for this desktop", {{x, "Name=X\nNotShowIn=Tarn;\n"}}, {});
-    row("program not installed", {{x, "Name=X\nTryExec=/nonexistent/x\n"}}, {});
-    row("no application", {{x, "Name=X\nType=Link\nURL=http://localhost\n"}}, {});
-    row("no name", {{x, "Icon=x\n"}}, {});
-    row("another suffix", {{u"a/applications/x.desktop.save"_qs, "Name=X\n"}}, {});
-    row("earlier folder first", {{x, "Name=One\n"}, {later, "Name=Two\n"}}, {u"One.app"_qs});
-    row("hidden in the earlier folder", {{x, "Name=One\nHidden=true\n"}, {later, "Name=Two\n"}},
-        {});
-    row("replaced by the user", {{x, "Name=Theirs\n"}, {own, "Name=Mine\n"}}, {}, {u"Mine.app"_qs});
-    row("hidden by the user", {{x, "Name=X\n"}, {own, "Name=X\nHidden=true\n"}}, {});
-    row("beside the user's", {{x, "Name=X\n"}, {u"own/applications/y.desktop"_qs, "Name=X\n"}},
-        {u"X.app"_qs}, {u"X.app"_qs});
-    row("sub-folder counts in the id",
-        {{u"a/applications/k/d/x.desktop"_qs, "Name=X\n"},
-         {u"own/applications/k-d-x.desktop"_qs, "Name=Mine\n"}},
-        {}, {u"Mine.app"_qs});
-    row("same name twice", {{x, "Name=X\n"}, {u"a/applications/y.desktop"_qs, "Name=X\n"}},
-        {u"X.app"_qs});
+    const QString other = u"b/applications/other.desktop"_qs;
+    row("Name=\303\234\nName[de]=Texteditor", other, u"Other.app \u00dc.app,"_qs);
+    row("Name=X\nHidden=true", other, u"Other.app,"_qs);
+    row("Name=X\nNoDisplay=true", other, u"Other.app,"_qs);
+    row("Name=X\nOnlyShowIn=KDE;GNOME;", other, u"Other.app X.app,"_qs);
+    row("Name=X\nOnlyShowIn=KDE;", other, u"Other.app,"_qs);
+    row("Name=X\nNotShowIn=Tarn;", other, u"Other.app,"_qs);
+    row("Name=X\nTryExec=/nonexistent/x", other, u"Other.app,"_qs);
+    row("Name=X\nType=Link", other, u"Other.app,"_qs);
+    row("Name=Other", other, u"Other.app,"_qs);
+    row("Name=X", u"b/applications/k/x.desktop"_qs, u"X.app,"_qs);
+    row("Name=X\nHidden=true", u"b/applications/k-x.desktop"_qs, u","_qs);
+    row("Name=X", u"own/applications/k-x.desktop"_qs, u",Other.app"_qs);
+    row("Name=Other", u"own/applications/y.desktop"_qs, u"Other.app,Other.app"_qs);
 }
 
 void DesktopEntriesTest::lists()
 {
-    QFETCH(Files, files);
-    install(files);
-    QTEST(sortedEntries(DesktopEntryPlace::System), "system");
-    QTEST(sortedEntries(DesktopEntryPlace::User), "own");
+    QFETCH(QByteArray, keys);
+    QFETCH(QString, otherFile);
+    install(u"a/applications/k/x.desktop"_qs, keys);
+    install(otherFile, "Name=Other");
+    QStringList found;
+    for (const auto place : {DesktopEntryPlace::System, DesktopEntryPlace::User}) {
+        QStringList names = FreedesktopApplicationFolder(place).entries().value_or(QStringList());
+        names.sort();
+        found += names.join(u' ');
+    }
+    QTEST(found.join(u','), "expected");
 }
 
 void DesktopEntriesTest::unreadable()
 {
+    install(u"b/applications/x.desktop"_qs, "Name=X");
     const FreedesktopApplicationFolder system(DesktopEntryPlace::System);
-    QCOMPARE(system.path(), m_root->filePath(u"a/applications/"_qs));
-    QVERIFY(QDir(m_root->filePath(u"a"_qs)).removeRecursively());
-    QVERIFY(!system.entries());
-    QVERIFY(FreedesktopApplicationFolder(DesktopEntryPlace::User).entries());
-    QVERIFY(QDir(m_root->filePath(u"own"_qs)).removeRecursively());
+    QVERIFY(system.entries());
+    QCOMPARE(system.path(), path(u"b/applications/"_qs));
     const FreedesktopApplicationFolder own(DesktopEntryPlace::User);
     QVERIFY(!own.entries());
-    QVERIFY(!own.contains(u"X.app"_qs));
-    QCOMPARE(own.path(), m_root->filePath(u"own/applications/"_qs));
+    QCOMPARE(own.path(), path(u"own/applications/"_qs));
 }
 
 void DesktopEntriesTest::seesChangesInTheNextTurn()
 {
     const FreedesktopApplicationFolder system(DesktopEntryPlace::System);
     QVERIFY(!system.contains(u"X.app"_qs));
-    install({{u"a/applications/x.desktop"_qs, "Name=X\n"}});
-    // A pipe without a writer and a link to nowhere must hold up nothing.
-    const QString pipe = m_root->filePath(u"a/applications/pipe.desktop"_qs);
-    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    QVERIFY(QFile::link(u"nowhere"_qs, m_root->filePath(u"a/applications/link.desktop"_qs)));
+    install(u"a/applications/x.desktop"_qs, "Name=X");
+    // Neither a pipe without a writer nor a link to nowhere holds anything up.
+    QCOMPARE(::mkfifo(path(u"a/applications/p.desktop"_qs).toUtf8().constData(), 0600), 0);
+    QVERIFY(QFile::link(u"nowhere"_qs, path(u"a/applications/link.desktop"_qs)));
     QTRY_VERIFY(system.contains(u"X.app"_qs));
 }
 
@@ -137,45 +110,39 @@ void DesktopEntriesTest::icons_data()
 {
     QTest::addColumn<QString>("icon");
     QTest::addColumn<QColor>("color");
-    const auto row = [](const char* name, const QString& icon, const QColor& color) {
-        QTest::newRow(name) << icon << color;
+    const auto row = [](const QString& icon, const QColor& color) {
+        QTest::newRow(qPrintable(icon)) << icon << color;
     };
-    row("theme", u"themed"_qs, Qt::red);
-    row("theme, with a suffix", u"themed.png"_qs, Qt::red);
-    row("theme, drawn", u"drawn"_qs, Qt::blue);
-    row("outside of themes", u"loose"_qs, Qt::green);
-    row("path", u"%1/a/pixmaps/loose.png"_qs, Qt::green);
-    row("path, drawn", u"%1/b/icons/hicolor/scalable/apps/drawn.svg"_qs, Qt::blue);
-    row("path to nowhere", u"%1/nowhere.svg"_qs, {});
-    row("not in the theme", u"unheard-of"_qs, {});
-    row("none", {}, {});
+    row(u"themed"_qs, Qt::red);
+    row(u"themed.png"_qs, Qt::red);
+    row(u"drawn"_qs, Qt::blue);
+    row(u"loose"_qs, Qt::green);
+    row(u"%1/a/pixmaps/loose.png"_qs, Qt::green);
+    row(u"%1/b/icons/hicolor/apps/drawn.svg"_qs, Qt::blue);
+    row(u"%1/nowhere.svg"_qs, {});
+    row(u"unheard-of"_qs, {});
+    row({}, {});
 }
 
 void DesktopEntriesTest::icons()
 {
     QFETCH(QString, icon);
-    const auto draw = [this](const QString& path, const QColor& color) {
-        const QFileInfo file(m_root->filePath(path));
-        QDir().mkpath(file.path());
-        QPixmap picture(48, 48);
-        picture.fill(color);
-        QVERIFY(picture.save(file.filePath()));
-    };
-    const QString hicolor = u"b/icons/hicolor/"_qs;
-    writeFile(m_root->filePath(hicolor + u"index.theme"_qs),
-              "[Icon Theme]\nName=Hicolor\nDirectories=48x48/apps,scalable/apps\n"
-              "[48x48/apps]\nSize=48\n[scalable/apps]\nSize=48\nMinSize=1\nMaxSize=512\n"
-              "Type=Scalable\n");
-    draw(hicolor + u"48x48/apps/themed.png"_qs, Qt::red);
-    draw(u"a/pixmaps/loose.png"_qs, Qt::green);
-    writeFile(m_root->filePath(hicolor + u"scalable/apps/drawn.svg"_qs),
+    writeFile(path(u"b/icons/hicolor/index.theme"_qs),
+              "[Icon Theme]\nName=Hicolor\nDirectories=apps\n[apps]\nSize=16\nType=Scalable\n");
+    writeFile(path(u"b/icons/hicolor/apps/drawn.svg"_qs),
               "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"
               "<rect width='9' height='9' fill='#00f'/></svg>");
-    install({{u"a/applications/x.desktop"_qs,
-              "Name=X\nIcon=" + (icon.contains(u'%') ? icon.arg(m_root->path()) : icon).toUtf8()}});
+    QPixmap picture(16, 16);
+    picture.fill(Qt::red);
+    QVERIFY(picture.save(path(u"b/icons/hicolor/apps/themed.png"_qs)));
+    picture.fill(Qt::green);
+    QVERIFY(QDir().mkpath(path(u"a/pixmaps"_qs)));
+    QVERIFY(picture.save(path(u"a/pixmaps/loose.png"_qs)));
+    install(u"a/applications/x.desktop"_qs,
+            "Name=X\nIcon=" + icon.replace(u"%1"_qs, m_root->path()).toUtf8());
 
     const QIcon shown = FreedesktopApplicationFolder(DesktopEntryPlace::System).icon(u"X.app"_qs);
-    QTEST(shown.isNull() ? QColor() : shown.pixmap(16, 16).toImage().pixelColor(8, 8), "color");
+    QTEST(shown.isNull() ? QColor() : shown.pixmap(16).toImage().pixelColor(8, 8), "color");
 }
 
 TARNWICK_TEST(DesktopEntriesTest)
