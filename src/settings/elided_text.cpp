@@ -9,6 +9,8 @@ namespace tarnwick {
 
 QString verbatimToolTip(const QString& text)
 {
+    if (text.isEmpty())
+        return {};
     return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped());
 }
 

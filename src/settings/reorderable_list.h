@@ -5,6 +5,9 @@
 #include "settings/reorderable_for_each.h"
 #include "settings/reorderable_row.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace tarnwick {
 
 /// The rows of an array, which the user reorders by dragging. Rows are kept as long as their items
@@ -30,15 +33,20 @@ public:
     /// To be called after each change of the array.
     void reload()
     {
-        QMultiHash<Item, ReorderableRow*> kept;
-        for (std::size_t i = m_items.size(); i-- > 0;)
-            kept.insert(m_items[i], rows()[i]);
+        std::vector<std::pair<Item, ReorderableRow*>> kept;
+        for (std::size_t i = 0; i < m_items.size(); ++i)
+            kept.emplace_back(m_items[i], rows()[i]);
 
         m_items = m_forEach.data.get();
         std::vector<ReorderableRow*> newRows;
         for (const Item& item : m_items) {
-            ReorderableRow* const row = kept.take(item);
-            newRows.push_back(row ? row : m_content(item));
+            const auto same = std::ranges::find(kept, item, &decltype(kept)::value_type::first);
+            if (same == kept.end()) {
+                newRows.push_back(m_content(item));
+            } else {
+                newRows.push_back(same->second);
+                kept.erase(same);
+            }
             newRows.back()->setReordering(dragSource(item), m_forEach.dropDelegate(item));
         }
         setRows(std::move(newRows));
