@@ -19,13 +19,21 @@ PathField::PathField(QWidget* parent)
     setTextMargins(textMargin, 0, textMargin, 0);
     // A row that is dropped here by mistake would leave the text of its drag behind.
     setAcceptDrops(false);
+}
 
-    auto* const completer = new QCompleter(this);
-    auto* const folders = new QFileSystemModel(completer);
-    folders->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
-    folders->setRootPath(QDir::rootPath());
-    completer->setModel(folders);
-    setCompleter(completer);
+void PathField::focusInEvent(QFocusEvent* event)
+{
+    // The model starts reading folders when it is made, and is waited for when it goes: whoever
+    // only looks at the list has nothing to do with a disk that does not answer.
+    if (!completer()) {
+        auto* const folders = new QCompleter(this);
+        auto* const model = new QFileSystemModel(folders);
+        model->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
+        model->setRootPath(QDir::rootPath());
+        folders->setModel(model);
+        setCompleter(folders);
+    }
+    QLineEdit::focusInEvent(event);
 }
 
 } // namespace tarnwick

@@ -13,6 +13,9 @@ class PathField : public QLineEdit
 
 public:
     explicit PathField(QWidget* parent = nullptr);
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
 };
 
 } // namespace tarnwick
