@@ -53,6 +53,8 @@ bool makeFolder(const QString& folder)
 bool replaceFileDurably(const QString& path, const QByteArray& bytes)
 {
     const QFileInfo target = linkTarget(path);
+    if (target.exists() && !target.isFile()) // a device, say: root would put a file in its place
+        return false;
     const QString folder = target.absolutePath();
     if (!makeFolder(folder))
         return false;
