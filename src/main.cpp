@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "model/background_queue.h"
+#include "model/bundle_info.h"
 #include "model/command_runner.h"
 #include "model/preferences_store.h"
+#include "platform/application_instance.h"
 #include "platform/platform.h"
 #include "platform/terminal_launcher.h"
 #include "platform/tray_host.h"
@@ -9,6 +11,9 @@
 #include "shell/menu/status_menu_accessible.h"
 
 #include <QApplication>
+
+#include <cstdio>
+#include <cstdlib>
 
 int main(int argc, char* argv[])
 {
@@ -20,9 +25,15 @@ int main(int argc, char* argv[])
     // The program lives in the status bar: closing a window is never the end of it.
     QApplication::setQuitOnLastWindowClosed(false);
 
+    Platform platform = systemPlatform();
+    const BundleInfo bundle(platform.bundleInfo);
+    if (!becomeRunningApplication(bundle.text(QStringLiteral("CFBundleIdentifier")))) {
+        std::fputs("Tarnwick is already running\n", stderr);
+        return EXIT_SUCCESS;
+    }
+
     installMenuAccessibility();
 
-    Platform platform = systemPlatform();
     PreferencesStore store(PreferencesStore::defaultFilePath());
     CommandRunner runner({.open = platform.openProgram});
     BackgroundQueue queue;

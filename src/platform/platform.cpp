@@ -2,6 +2,7 @@
 #include "platform/platform.h"
 
 #include "platform/application_folder.h"
+#include "platform/login_services.h"
 #include "platform/terminal_launcher.h"
 #include "platform/tray_host.h"
 

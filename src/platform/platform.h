@@ -10,6 +10,7 @@
 namespace tarnwick {
 
 class ApplicationFolder;
+class LoginServices;
 class TerminalLauncher;
 class TrayHost;
 
@@ -27,6 +28,7 @@ struct Platform
     std::unique_ptr<TerminalLauncher> terminal;
     std::unique_ptr<ApplicationFolder> systemApplications;
     std::unique_ptr<ApplicationFolder> userApplications;
+    std::unique_ptr<LoginServices> loginServices;
     /// Absolute path of the program that opens a directory in an application, or shows a file in
     /// the file manager.
     QString openProgram;

@@ -4,6 +4,7 @@
 #include "model/bundle_info.h"
 #include "model/diagnostics.h"
 #include "model/repo_manager.h"
+#include "platform/launcher_helper.h"
 #include "platform/platform.h"
 #include "settings/settings_view.h"
 #include "shell/application_menu.h"
@@ -23,6 +24,8 @@ AppDelegate::AppDelegate(Platform& platform, PreferencesStore& store, RepoServic
     : m_platform(platform)
     , m_store(store)
     , m_services(services)
+    , m_launchAtLogin(*platform.loginServices, store, BundleInfo(platform.bundleInfo),
+                      launcher::identifier)
     , m_appMenu(std::make_shared<ApplicationMenu>(platform, services.runner, store, *this))
 {
     connect(m_appMenu.get(), &ApplicationMenu::settingsRequested, this, &AppDelegate::openSettings);
@@ -44,7 +47,7 @@ void AppDelegate::applicationDidFinishLaunching()
     sharedDelegate = this;
     makeStatusItem();
     rebuildMenu();
-    // Starting at login will be seen to here, last.
+    m_launchAtLogin.startLaunchAtLogin();
 }
 
 void AppDelegate::menuWillOpen()
@@ -90,9 +93,9 @@ void AppDelegate::rebuildMenu()
     }
 }
 
-void AppDelegate::setLaunchAtLogin(bool /*enabled*/)
+void AppDelegate::setLaunchAtLogin(bool enabled)
 {
-    // Starting at login will be seen to here, too.
+    m_launchAtLogin.setLaunchAtLogin(enabled);
 }
 
 std::shared_ptr<RepoViewModelDelegate> AppDelegate::newRecordDelegate()

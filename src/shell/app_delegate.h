@@ -3,6 +3,7 @@
 
 #include "model/repo_view_model.h"
 #include "settings/settings_host.h"
+#include "shell/launch_at_login.h"
 
 #include <QObject>
 
@@ -56,6 +57,7 @@ private:
     Platform& m_platform;
     PreferencesStore& m_store;
     const RepoServices m_services;
+    LaunchAtLogin m_launchAtLogin;
 
     const std::shared_ptr<ApplicationMenu> m_appMenu;
     std::unique_ptr<RepoManager> m_repoManager;

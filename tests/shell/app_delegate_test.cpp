@@ -7,6 +7,7 @@
 #include "shell/application_menu.h"
 #include "shell/menu/status_menu.h"
 #include "shell/status_item.h"
+#include "support/recording_login_services.h"
 #include "support/test_registry.h"
 #include "support/workbench.h"
 
@@ -49,6 +50,7 @@ void AppDelegateTest::rebuildReplacesTheMenuAsAWhole()
     platform.systemApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_qs);
     platform.userApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_qs);
     platform.bundleInfo = {{u"CFBundleVersion"_qs, u"42"_qs}};
+    platform.loginServices = std::make_unique<RecordingLoginServices>();
     Workbench bench;
     bench.store.setObject(u"/nonexistent/a"_qs, u"repos"_qs);
     AppDelegate delegate(platform, bench.store, bench.services());

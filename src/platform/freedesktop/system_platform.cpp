@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/application_folder.h"
+#include "platform/freedesktop/login_services.h"
 #include "platform/freedesktop/palette_follower.h"
 #include "platform/freedesktop/terminal_launcher.h"
 #include "platform/freedesktop/tray_host.h"
@@ -14,15 +15,20 @@ namespace tarnwick {
 
 namespace {
 
-/// A path below the prefix that the program is installed under.
+/// `path` is relative to the folder that the program is in.
 QString installed(const QString& path)
 {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../") + path);
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + path);
+}
+
+QString helper(const QString& name)
+{
+    return installed(QStringLiteral(TARNWICK_HELPERS "/") + name);
 }
 
 QJsonObject readBundleInfo()
 {
-    QFile file(installed(QStringLiteral("share/tarnwick/Info.json")));
+    QFile file(installed(QStringLiteral("../share/tarnwick/Info.json")));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return QJsonDocument::fromJson(file.readAll()).object();
@@ -40,7 +46,9 @@ Platform systemPlatform()
         std::make_unique<FreedesktopApplicationFolder>(DesktopEntryPlace::System);
     platform.userApplications =
         std::make_unique<FreedesktopApplicationFolder>(DesktopEntryPlace::User);
-    platform.openProgram = installed(QStringLiteral("libexec/tarnwick/open"));
+    platform.loginServices =
+        std::make_unique<FreedesktopLoginServices>(helper(QStringLiteral("tarnwick-launcher")));
+    platform.openProgram = helper(QStringLiteral("open"));
     platform.bundleInfo = readBundleInfo();
     return platform;
 }

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "e2e/desktop.h"
+#include "support/test_registry.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusReply>
+#include <QDir>
+#include <QTest>
+
+#include <csignal>
+
+using namespace tarnwick::test;
+
+/// The desktop's part is played by gio, which starts what the autostart entry says.
+class LoginE2eTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void loginStartsOneCopy();
+
+public Q_SLOTS:
+    void note(const QString& name, const QString& object) { m_notes += name + u' ' + object; }
+
+private:
+    static bool runs(const QString& identifier)
+    {
+        return QDBusConnection::sessionBus().interface()->isServiceRegistered(identifier);
+    }
+    /// The processes that run the program.
+    static int copies()
+    {
+        const QStringList processes = QDir(u"/proc"_qs).entryList({u"[1-9]*"_qs}, QDir::Dirs);
+        return static_cast<int>(
+            std::count_if(processes.begin(), processes.end(), [](const QString& process) {
+                return QFile::symLinkTarget(u"/proc/%1/exe"_qs.arg(process)) ==
+                       QStringLiteral(TARNWICK_PROGRAM);
+            }));
+    }
+
+    QStringList m_notes;
+};
+
+void LoginE2eTest::loginStartsOneCopy()
+{
+    const QString application = u"org.tarnwick.Tarnwick"_qs;
+    const QString helper = u"org.tarnwick.TarnwickLauncher"_qs;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    QVERIFY(bus.connect({}, {}, u"org.tarnwick.DistributedNotifications"_qs, u"Posted"_qs, this,
+                        SLOT(note(QString, QString))));
+    const QString entry =
+        qEnvironmentVariable("XDG_CONFIG_HOME") + u"/autostart/"_qs + helper + u".desktop"_qs;
+
+    QProcess first;
+    first.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(entry), 10000);
+    first.terminate();
+    QVERIFY(first.waitForFinished());
+
+    QCOMPARE(QProcess::execute(u"gio"_qs, {u"launch"_qs, entry}), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(m_notes, QStringList{u"killTarnwickLauncher "_qs + application},
+                              10000);
+    QTRY_VERIFY(!runs(helper));
+    QVERIFY(runs(application));
+
+    QProcess second;
+    second.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
+    QVERIFY(second.waitForFinished());
+    QCOMPARE(second.readAllStandardError(), "Tarnwick is already running\n");
+    QCOMPARE(QProcess::execute(u"gio"_qs, {u"launch"_qs, entry}), 0);
+    QTRY_VERIFY(!runs(helper));
+    QCOMPARE(copies(), 1);
+    QCOMPARE(m_notes.size(), 1);
+
+    const uint pid = bus.interface()->servicePid(application);
+    QTRY_VERIFY(!statusItemPosition().isNull());
+    ::kill(static_cast<pid_t>(pid), SIGTERM);
+    QTRY_VERIFY(!runs(application));
+}
+
+TARNWICK_TEST(LoginE2eTest)
+
+#include "login_e2e_test.moc"
