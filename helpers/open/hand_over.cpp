@@ -15,7 +15,7 @@ namespace {
 void leaveCaller()
 {
     ::setsid();
-    const int nothing = ::open("/dev/null", O_RDWR | O_CLOEXEC);
+    const int nothing = ::open("/dev/null", O_RDWR);
     for (const int channel : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         ::dup2(nothing, channel);
 }
