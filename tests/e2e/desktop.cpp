@@ -24,15 +24,18 @@ QByteArray outputOf(const QString& program, const QStringList& arguments)
 
 } // namespace
 
-RunningProgram::RunningProgram(const QJsonObject& preferences)
+RunningProgram::RunningProgram(const QJsonObject& preferences,
+                               const QMap<QString, QString>& variables, const QString& program)
 {
     writeFile(m_configHome.filePath(u"tarnwick/preferences.json"_qs),
               QJsonDocument(preferences).toJson());
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"XDG_CONFIG_HOME"_qs, m_configHome.path());
+    for (const auto& [name, value] : variables.asKeyValueRange())
+        environment.insert(name, value);
     m_process.setProcessEnvironment(environment);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_process.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
+    m_process.start(program, QStringList());
     QVERIFY(m_process.waitForStarted());
 }
 
@@ -58,6 +61,13 @@ qsizetype RunningProgram::printedCount(const QString& start)
         .size();
 }
 
+QJsonObject RunningProgram::preferences() const
+{
+    QFile file(m_configHome.filePath(u"tarnwick/preferences.json"_qs));
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object()
+                                          : QJsonObject();
+}
+
 QPoint statusItemPosition()
 {
     const QStringList parts = runScript(u"status_item_position.sh"_qs).simplified().split(u' ');
@@ -81,7 +91,7 @@ QStringList menuRows()
 {
     QStringList rows;
     for (const Accessible& item : accessibleTree()) {
-        if ((item.role == u"menu item" || item.role == u"panel") && !item.name.isEmpty())
+        if (item.role == u"menu item")
             rows += item.name;
     }
     return rows;
@@ -96,10 +106,21 @@ Accessible accessibleNamed(const QString& start)
     return {};
 }
 
+Accessible appeared(const QString& start)
+{
+    Accessible before;
+    Accessible now;
+    const auto rests = [&] {
+        before = std::exchange(now, accessibleNamed(start));
+        return !now.name.isEmpty() && now.area == before.area;
+    };
+    return QTest::qWaitFor(rests, patienceMs) ? now : Accessible();
+}
+
 bool openMenu()
 {
     const auto itemIsThere = [] { return !statusItemPosition().isNull(); };
-    const auto menuIsOpen = [] { return !menuRows().isEmpty(); };
+    const auto menuIsOpen = [] { return !accessibleNamed(u"Refresh all"_qs).name.isEmpty(); };
     // A click on an item that has only just been placed may be lost.
     return QTest::qWaitFor(itemIsThere, patienceMs) &&
            QTest::qWaitFor(
@@ -109,6 +130,32 @@ bool openMenu()
                    return QTest::qWaitFor(menuIsOpen, 1500);
                },
                patienceMs);
+}
+
+bool openPanel(const QString& row)
+{
+    if (!openMenu())
+        return false;
+    const QPoint middle = appeared(row).area.center();
+    xdotool({u"mousemove"_qs, QString::number(middle.x()), QString::number(middle.y())});
+    return !appeared(u"Show in Finder"_qs).name.isEmpty();
+}
+
+bool clickNamed(const QString& start)
+{
+    const Accessible item = appeared(start);
+    click(item.area.center());
+    return !item.name.isEmpty();
+}
+
+bool windowIsActive(const QString& title)
+{
+    return QTest::qWaitFor(
+        [&] {
+            return outputOf(u"xdotool"_qs, {u"getactivewindow"_qs, u"getwindowname"_qs})
+                       .trimmed() == title.toUtf8();
+        },
+        patienceMs);
 }
 
 void xdotool(const QStringList& arguments)

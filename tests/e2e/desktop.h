@@ -16,17 +16,21 @@ struct Accessible
     QString name;
 };
 
-/// The program as installed, started on the current display with preferences of its own. It ends
-/// with this object.
+/// The program as installed, started on the current display with preferences of its own and in an
+/// environment changed by the given variables. It ends with this object.
 class RunningProgram
 {
 public:
-    explicit RunningProgram(const QJsonObject& preferences = {});
+    explicit RunningProgram(const QJsonObject& preferences = {},
+                            const QMap<QString, QString>& variables = {},
+                            const QString& program = QStringLiteral(TARNWICK_PROGRAM));
     ~RunningProgram();
 
     /// What it has printed so far.
     [[nodiscard]] QStringList printedLines();
     [[nodiscard]] qsizetype printedCount(const QString& start);
+    /// What its preferences file holds now.
+    [[nodiscard]] QJsonObject preferences() const;
 
 private:
     QTemporaryDir m_configHome;
@@ -42,8 +46,17 @@ private:
 [[nodiscard]] QStringList menuRows();
 [[nodiscard]] Accessible accessibleNamed(const QString& start);
 
+/// Waits until something of the name has come up and rests; null if nothing does.
+[[nodiscard]] Accessible appeared(const QString& start);
+
 /// Clicks the status item, once it is there, until its menu is open.
 [[nodiscard]] bool openMenu();
+/// Opens the menu, and in it the panel of the row that has this name.
+[[nodiscard]] bool openPanel(const QString& row);
+/// Clicks what has this name, once it is there.
+[[nodiscard]] bool clickNamed(const QString& start);
+/// Waits until a window of the title is on the screen and has the keyboard.
+[[nodiscard]] bool windowIsActive(const QString& title);
 
 /// Runs xdotool, which moves the real pointer and presses real keys.
 void xdotool(const QStringList& arguments);

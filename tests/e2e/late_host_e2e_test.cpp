@@ -36,7 +36,7 @@ void LateHostE2eTest::itemAppearsWithTheHost()
     QVERIFY(openMenu());
     const QString advice =
         u"Open the settings (the gear) and add some repositories to get started!"_qs;
-    QCOMPARE(menuRows(), QStringList{advice});
+    QVERIFY(menuRows().isEmpty());
     QCOMPARE(accessibleNamed(advice).area.height(), 140);
     key(u"Escape"_qs);
     panel.terminate();

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "e2e/desktop.h"
+#include "e2e/outside_world.h"
+#include "support/loopback_server.h"
+#include "support/signed_update.h"
+#include "support/temporary_repository.h"
+#include "support/test_registry.h"
+
+#include <QJsonDocument>
+#include <QTest>
+
+using namespace tarnwick::test;
+
+/// The real program, packaged for another feed and key, against a real server.
+class UpdatesE2eTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { key(u"Escape"_qs); }
+
+    void downloadIsVerifiedAndOpened_data();
+    void downloadIsVerifiedAndOpened();
+};
+
+void UpdatesE2eTest::downloadIsVerifiedAndOpened_data()
+{
+    QTest::addColumn<QByteArray>("served");
+    QTest::addColumn<QString>("conclusion");
+    QTest::addColumn<bool>("isKept");
+    QTest::newRow("genuine") << QByteArray("the new version") << u"The update was downloaded"_qs
+                             << true;
+    QTest::newRow("tampered") << QByteArray("the bad version")
+                              << u"The update was not downloaded"_qs << false;
+}
+
+void UpdatesE2eTest::downloadIsVerifiedAndOpened()
+{
+    QFETCH(QByteArray, served);
+    QFETCH(QString, conclusion);
+    QFETCH(bool, isKept);
+    const OutsideWorld world;
+    const SignedUpdate update("the new version");
+    LoopbackServer server;
+    const QByteArray package = server.url("/files/tarnwick-10.txt").toEncoded();
+    server.answer("/feed", LoopbackServer::bytes(update.feed(package)));
+    server.answer("/files/tarnwick-10.txt", LoopbackServer::bytes(served));
+
+    QProcess::execute(u"cp"_qs,
+                      {u"-a"_qs, QStringLiteral(TARNWICK_INSTALLED), world.path(u"app"_qs)});
+    writeFile(
+        world.path(u"app/share/tarnwick/Info.json"_qs),
+        QJsonDocument(QJsonObject{{u"CFBundleIdentifier"_qs, u"org.tarnwick.Tarnwick"_qs},
+                                  {u"CFBundleVersion"_qs, u"9"_qs},
+                                  {u"SUFeedURL"_qs, server.url("/feed").toString()},
+                                  {u"SUPublicEDKey"_qs, QString::fromLatin1(update.publicKey())}})
+            .toJson());
+    const RunningProgram program({}, world.variables(), world.path(u"app/bin/tarnwick"_qs));
+    QVERIFY(openMenu());
+    QVERIFY(clickNamed(u"Check for updates"_qs));
+    QVERIFY(windowIsActive(u"Software Update"_qs));
+    QVERIFY(clickNamed(u"Download"_qs));
+    QVERIFY(!appeared(conclusion).name.isEmpty());
+
+    const QString file = world.path(u"home/Downloads/tarnwick-10.txt"_qs);
+    const auto files = QDir(world.path(u"home/Downloads"_qs)).entryList(QDir::Files | QDir::Hidden);
+    QCOMPARE(files, isKept ? QStringList{u"tarnwick-10.txt"_qs} : QStringList());
+    QTRY_COMPARE_WITH_TIMEOUT(
+        world.started(),
+        isKept ? QStringList{u"<app><--open><%1><--name><Recorder><end>"_qs.arg(file)}
+               : QStringList(),
+        10000);
+    QVERIFY(clickNamed(u"Close"_qs));
+}
+
+TARNWICK_TEST(UpdatesE2eTest)
+
+#include "updates_e2e_test.moc"
