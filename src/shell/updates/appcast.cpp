@@ -187,9 +187,9 @@ std::optional<AppcastItem> newestItem(const QList<AppcastItem>& items, const QSt
 {
     const auto newest = std::max_element(
         items.begin(), items.end(), [](const AppcastItem& left, const AppcastItem& right) {
-            return compareVersions(left.version, right.version) < 0;
+            return std::is_lt(compareVersions(left.version, right.version));
         });
-    if (newest == items.end() || compareVersions(newest->version, buildNumber) <= 0)
+    if (newest == items.end() || std::is_lteq(compareVersions(newest->version, buildNumber)))
         return {};
     return *newest;
 }

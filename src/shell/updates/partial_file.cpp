@@ -50,7 +50,7 @@ bool PartialFile::isSignedBy(const QByteArray& publicKey, const QByteArray& sign
 
 QString PartialFile::keepAs(const QString& fileName)
 {
-    const QString path = unusedPath(m_folder, fileName);
+    QString path = unusedPath(m_folder, fileName);
     if (!m_file.rename(path))
         return {};
     m_file.setAutoRemove(false);

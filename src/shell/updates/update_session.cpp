@@ -12,7 +12,7 @@ namespace tarnwick {
 
 namespace {
 
-constexpr qint64 mebibyte = 1024 * 1024;
+constexpr qint64 mebibyte = 1'048'576;
 constexpr qint64 largestFeed = 4 * mebibyte;
 constexpr qint64 largestDownload = 2048 * mebibyte;
 
