@@ -19,7 +19,7 @@ HOLDERS = {"alert", "application", "dialog", "frame", "list", "page tab list", "
 
 def walk(item):
     try:
-        name = item.get_name()
+        name = item.get_name().replace("\n", " ")
         if item.get_state_set().contains(Atspi.StateType.SHOWING):
             area = item.get_extents(Atspi.CoordType.SCREEN)
             print(area.x, area.y, area.width, area.height, item.get_role_name(), name,

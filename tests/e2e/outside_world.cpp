@@ -64,9 +64,10 @@ OutsideWorld::~OutsideWorld()
 
 QMap<QString, QString> OutsideWorld::variables() const
 {
-    return {{u"HOME"_qs, path(u"home"_qs)},
+    // A desktop that is known has openers of its own, which go by other settings.
+    return {{u"XDG_CURRENT_DESKTOP"_qs, u"X-Test"_qs},
+            {u"HOME"_qs, path(u"home"_qs)},
             {u"XDG_DATA_HOME"_qs, path(u"data"_qs)},
-            {u"BROWSER"_qs, path(u"bin/note"_qs)},
             {u"PATH"_qs, path(u"bin:"_qs) + qEnvironmentVariable("PATH")}};
 }
 

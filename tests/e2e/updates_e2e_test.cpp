@@ -28,10 +28,10 @@ void UpdatesE2eTest::downloadIsVerifiedAndOpened_data()
     QTest::addColumn<QByteArray>("served");
     QTest::addColumn<QString>("conclusion");
     QTest::addColumn<bool>("isKept");
-    QTest::newRow("genuine") << QByteArray("the new version") << u"The update was downloaded"_qs
-                             << true;
+    QTest::newRow("genuine") << QByteArray("the new version")
+                             << u"Tarnwick 1.3 has been downloaded"_qs << true;
     QTest::newRow("tampered") << QByteArray("the bad version")
-                              << u"The update was not downloaded"_qs << false;
+                              << u"The new version could not be downloaded"_qs << false;
 }
 
 void UpdatesE2eTest::downloadIsVerifiedAndOpened()
