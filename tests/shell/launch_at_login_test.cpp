@@ -11,29 +11,6 @@
 using namespace tarnwick;
 using namespace tarnwick::test;
 
-namespace {
-
-const QString helper = u"x.y.TarnwickLauncher"_qs;
-const QString post = u"post killTarnwickLauncher x.y.App"_qs;
-const QString on = u"register "_qs + helper;
-const QString off = u"unregister "_qs + helper;
-
-/// What is printed on standard output meanwhile.
-QByteArray printedBy(const std::function<void()>& action)
-{
-    QTemporaryFile file;
-    std::fflush(stdout);
-    const int terminal = file.open() ? dup(STDOUT_FILENO) : -1;
-    dup2(file.handle(), STDOUT_FILENO);
-    action();
-    dup2(terminal, STDOUT_FILENO);
-    close(terminal);
-    file.seek(0);
-    return file.readAll();
-}
-
-} // namespace
-
 class LaunchAtLoginTest : public QObject
 {
     Q_OBJECT
@@ -41,86 +18,73 @@ class LaunchAtLoginTest : public QObject
 private Q_SLOTS:
     void start_data();
     void start();
-    void toggle_data();
-    void toggle();
-    void helperWithoutBundleIdentifierStops();
+    void refusedToggle();
+
+private:
+    const QString m_helper = u"x.y.TarnwickLauncher"_qs;
 };
 
 void LaunchAtLoginTest::start_data()
 {
-    QTest::addColumn<std::optional<bool>>("stored");
+    QTest::addColumn<QVariant>("stored");
     QTest::addColumn<QStringList>("running");
-    QTest::addColumn<QList<bool>>("answers");
+    QTest::addColumn<int>("refusals");
     QTest::addColumn<QStringList>("calls");
 
-    using Stored = std::optional<bool>;
-    const QStringList others{u":1.1"_qs, helper.toLower(), helper + u"2"_qs};
-    QTest::newRow("first") << Stored() << others << QList{true} << QStringList{on};
-    QTest::newRow("on") << Stored(true) << others << QList{true} << QStringList{on};
-    QTest::newRow("off") << Stored(false) << others << QList{true} << QStringList{};
-    QTest::newRow("refused") << Stored() << others << QList{false, true} << QStringList{on, on};
-    QTest::newRow("refused twice")
-        << Stored(true) << others << QList{false, false} << QStringList{on, on};
-    QTest::newRow("two helpers") << Stored(true) << QStringList{helper, u"x.y.App"_qs, helper}
-                                 << QList{true} << QStringList{post, on};
-    QTest::newRow("helper, off") << Stored(false) << QStringList{helper} << QList{true}
-                                 << QStringList{post};
+    const QStringList others{u":1.1"_qs, m_helper.toLower(), m_helper + u'2'};
+    const QStringList two{m_helper, u"x.y.App"_qs, m_helper};
+    const QString post = u"post killTarnwickLauncher x.y.App"_qs;
+    const QString set = u"register "_qs + m_helper;
+    QTest::newRow("first") << QVariant() << others << 0 << QStringList{set};
+    QTest::newRow("refused") << QVariant() << others << 1 << QStringList{set, set};
+    QTest::newRow("refused twice") << QVariant(true) << others << 2 << QStringList{set, set};
+    QTest::newRow("helpers") << QVariant(true) << two << 0 << QStringList{post, set};
+    QTest::newRow("off") << QVariant(false) << two << 0 << QStringList{post};
 }
 
 void LaunchAtLoginTest::start()
 {
-    QFETCH(std::optional<bool>, stored);
+    QFETCH(QVariant, stored);
     QFETCH(QStringList, running);
-    QFETCH(QList<bool>, answers);
+    QFETCH(int, refusals);
     Workbench bench;
     bench.store.setBool(true, u"another"_qs);
-    if (stored)
-        bench.store.setBool(*stored, u"launchOnStartup"_qs);
+    if (stored.isValid())
+        bench.store.setBool(stored.toBool(), u"launchOnStartup"_qs);
     RecordingLoginServices services;
     services.running = running;
-    services.answers = answers;
-    LaunchAtLogin launch(services, bench.store,
-                         BundleInfo({{u"CFBundleIdentifier"_qs, u"x.y.App"_qs}}), helper);
-    QCOMPARE(printedBy([&] { launch.startLaunchAtLogin(); }), QByteArray());
+    services.refusals = refusals;
+    const auto start = [&](const QJsonObject& bundle) {
+        LaunchAtLogin(services, bench.store, BundleInfo(bundle), m_helper).startLaunchAtLogin();
+    };
+    start({{u"CFBundleIdentifier"_qs, u"x.y.App"_qs}});
     QTEST(services.calls, "calls");
-    QCOMPARE(bench.store.dictionaryRepresentation().value(u"launchOnStartup"_qs),
-             QVariant(stored.value_or(true)));
+    QCOMPARE(bench.store.boolForKey(u"launchOnStartup"_qs), !stored.isValid() || stored.toBool());
+    QCOMPARE(stopsProcess([&] { start({}); }), running.contains(m_helper));
 }
 
-void LaunchAtLoginTest::toggle_data()
+void LaunchAtLoginTest::refusedToggle()
 {
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QList<bool>>("answers");
-    QTest::addColumn<QStringList>("calls");
-    QTest::addColumn<QByteArray>("printed");
-
-    QTest::newRow("on") << true << QList{true} << QStringList{on}
-                        << QByteArray("1. Set launch to true, result: true\n");
-    QTest::newRow("refused") << false << QList{false, true} << QStringList{off, off}
-                             << QByteArray("1. Set launch to false, result: false\n"
-                                           "2. Set launch to false, result: false\n");
-}
-
-void LaunchAtLoginTest::toggle()
-{
-    QFETCH(bool, enabled);
-    QFETCH(QList<bool>, answers);
     Workbench bench;
     RecordingLoginServices services;
-    services.answers = answers;
-    LaunchAtLogin launch(services, bench.store, BundleInfo({}), helper);
-    QTEST(printedBy([&] { launch.setLaunchAtLogin(enabled); }), "printed");
-    QTEST(services.calls, "calls");
+    services.refusals = 1;
+    QTemporaryFile printed;
+    QVERIFY(printed.open());
+    const int terminal = dup(STDOUT_FILENO);
+    dup2(printed.handle(), STDOUT_FILENO);
+    LaunchAtLogin launch(services, bench.store, BundleInfo({}), m_helper);
+    launch.setLaunchAtLogin(false);
+    launch.setLaunchAtLogin(true);
+    dup2(terminal, STDOUT_FILENO);
+    close(terminal);
+    QVERIFY(printed.seek(0));
+
+    const QString off = u"unregister "_qs + m_helper;
+    QCOMPARE(services.calls, (QStringList{off, off, u"register "_qs + m_helper}));
+    QCOMPARE(printed.readAll(), QByteArray("1. Set launch to false, result: false\n"
+                                           "2. Set launch to false, result: false\n"
+                                           "1. Set launch to true, result: true\n"));
     QVERIFY(bench.store.dictionaryRepresentation().isEmpty());
-}
-
-void LaunchAtLoginTest::helperWithoutBundleIdentifierStops()
-{
-    Workbench bench;
-    RecordingLoginServices services;
-    services.running = QStringList{helper};
-    LaunchAtLogin launch(services, bench.store, BundleInfo({}), helper);
-    QVERIFY(stopsProcess([&] { launch.startLaunchAtLogin(); }));
 }
 
 TARNWICK_TEST(LaunchAtLoginTest)

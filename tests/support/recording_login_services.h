@@ -10,7 +10,7 @@ struct RecordingLoginServices : LoginServices
     [[nodiscard]] bool setLoginItemEnabled(const QString& identifier, bool enabled) override
     {
         calls += (enabled ? u"register "_qs : u"unregister "_qs) + identifier;
-        return answers.isEmpty() || answers.takeFirst();
+        return calls.size() > refusals;
     }
     [[nodiscard]] QStringList runningApplicationIdentifiers() const override { return running; }
     void postNotification(const QString& name, const QString& object) override
@@ -19,8 +19,7 @@ struct RecordingLoginServices : LoginServices
     }
 
     QStringList running;
-    /// To the requests in their order; yes when they have run out.
-    QList<bool> answers;
+    int refusals = 0;
     QStringList calls;
 };
 

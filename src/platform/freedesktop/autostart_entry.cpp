@@ -51,7 +51,8 @@ AutostartEntry::AutostartEntry(const QString& folder, const QString& identifier,
 
 bool AutostartEntry::write() const
 {
-    if (!QFileInfo(m_program).isExecutable())
+    const QFileInfo program(m_program);
+    if (!program.isFile() || !program.isExecutable())
         return false;
     return isWritten() || replaceFileDurably(m_path, content());
 }
