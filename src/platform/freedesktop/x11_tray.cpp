@@ -45,7 +45,7 @@ X11Tray::X11Tray(QObject* parent)
     : QObject(parent)
 {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11)
+    if (!x11 || !x11->connection()) // the offscreen platform offers the one without the other
         return;
     m_connection = x11->connection();
     m_manager = internAtom(m_connection, "MANAGER");
