@@ -10,12 +10,12 @@ import re
 import sys
 
 ROOMS = ["platform", "model", "views", "settings", "shell"]
-SOURCE = pathlib.Path(__file__).resolve().parents[1] / "src"
+ROOT = pathlib.Path(__file__).resolve().parents[1]
 
 
 def upward_includes(path, text):
-    room = path.relative_to(SOURCE).parts[0]
-    if room not in ROOMS:
+    top, room = path.relative_to(ROOT).parts[:2]
+    if top != "src" or room not in ROOMS:
         return
     above = ROOMS[ROOMS.index(room) + 1:]
     for included in re.findall(r'#include "(\w+)/[^"]+"', text):
@@ -49,7 +49,8 @@ def lone_lambdas(path, text):
 
 
 breaches = [breach
-            for path in sorted(SOURCE.rglob("*")) if path.suffix in (".h", ".cpp")
+            for folder in ("src", "helpers")
+            for path in sorted((ROOT / folder).rglob("*")) if path.suffix in (".h", ".cpp")
             for check in (upward_includes, lone_lambdas)
             for breach in check(path, path.read_text(encoding="utf-8"))]
 print("\n".join(breaches))
