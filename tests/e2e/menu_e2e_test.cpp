@@ -107,14 +107,14 @@ void MenuE2eTest::contextMenuRefreshesAll()
     const TemporaryRepository repository;
     RunningProgram program({{u"repos"_qs, repository.dir()}});
     QTRY_VERIFY_WITH_TIMEOUT(!statusItemPosition().isNull(), 20000);
-    QTRY_COMPARE(program.printedCount(statusRun), 2);
+    QTRY_COMPARE(program.printedCount(statusRun), 3);
     // "Refresh all" is the second entry; the menu may take a moment to accept keys.
     QVERIFY(QTest::qWaitFor(
         [&] {
             click(statusItemPosition(), 3);
             QTest::qWait(500);
             xdotool({u"key"_qs, u"Down"_qs, u"Down"_qs, u"Return"_qs});
-            return QTest::qWaitFor([&] { return program.printedCount(statusRun) == 4; }, 2000);
+            return QTest::qWaitFor([&] { return program.printedCount(statusRun) == 5; }, 2000);
         },
         15000));
 }
