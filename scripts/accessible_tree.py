@@ -14,7 +14,7 @@ from gi.repository import Atspi, GLib
 
 
 # Roles of what holds items of its own, whatever it is called.
-HOLDERS = {"alert", "application", "dialog", "frame", "list", "page tab list", "panel", "popup menu"}
+HOLDERS = {"alert", "application", "dialog", "frame", "list", "list item", "page tab list", "panel", "popup menu"}
 
 
 def walk(item):

@@ -15,6 +15,7 @@ public:
     explicit PathField(QWidget* parent = nullptr);
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 };
 

@@ -12,6 +12,7 @@ RemovalAlert::RemovalAlert(QWidget* parent)
                   parent)
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(QStringLiteral("Tarnwick"));
     QPushButton* const remove = addButton(tr("Remove it"), QMessageBox::DestructiveRole);
     QPalette colors = remove->palette();
     colors.setColor(QPalette::ButtonText, colors::red(appearanceOf(colors)));

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // How a status menu answers the pointer and the keyboard.
-#include "shell/menu/handed_press.h"
 #include "shell/menu/hosted_row.h"
 #include "shell/menu/hosting_view.h"
 #include "shell/menu/hover_path.h"
 #include "shell/menu/status_menu.h"
+#include "views/handed_press.h"
 
 #include <QAbstractButton>
 #include <QKeyEvent>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/menu/handed_press.h"
+#include "views/handed_press.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>
