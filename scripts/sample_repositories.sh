@@ -28,9 +28,12 @@ commit() {
     git commit -q --allow-empty -m "$1"
 }
 # The upstream branch stays where it is now; commits of either side come after.
+# The remote has an address in the web, but git takes the one beside the repository in its place.
 publish() {
-    git clone -q --bare . "$(git rev-parse --show-toplevel)/.git/upstream.git"
-    git remote add origin .git/upstream.git
+    local remote=$PWD/.git/upstream.git address=https://github.com/example/${PWD##*/}.git
+    git clone -q --bare . "$remote"
+    git config "url.$remote.insteadOf" "$address"
+    git remote add origin "$address"
     git fetch -q
     git branch -q -u origin/main
 }
