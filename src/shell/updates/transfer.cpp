@@ -99,6 +99,20 @@ void Transfer::stop()
     m_reply.clear();
 }
 
+/// What the server sends instead of what was asked for is of no interest, and may have no end.
+void Transfer::turnAway()
+{
+    const int status = statusOf(*m_reply);
+    if (status >= firstErrorStatus)
+        return fail(failureOf(*m_reply));
+    const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+    if (!target.isEmpty())
+        return follow(m_reply->url().resolved(target));
+    fail(tr("The server %1 gives an unexpected answer (%2).")
+             .arg(m_reply->url().host())
+             .arg(status));
+}
+
 void Transfer::follow(const QUrl& target)
 {
     if (++m_redirects > mostRedirects)
@@ -109,13 +123,10 @@ void Transfer::follow(const QUrl& target)
 
 void Transfer::read()
 {
-    const int status = statusOf(*m_reply);
-    if (status >= firstErrorStatus)
-        return fail(failureOf(*m_reply));
-    const QByteArray bytes = m_reply->read(m_mostBytes - m_received + 1);
-    // The page that comes with a redirect is of no interest.
-    if (status != statusOk)
-        return;
+    if (statusOf(*m_reply) != statusOk)
+        return turnAway();
+    // No more than that: a number would be the size of the memory taken for it.
+    const QByteArray bytes = m_reply->readAll();
     m_received += bytes.size();
     if (m_received > m_mostBytes)
         return fail(tr("The server %1 sends more than it should.").arg(m_reply->url().host()));
@@ -126,14 +137,8 @@ void Transfer::finish()
 {
     if (m_reply->error() != QNetworkReply::NoError)
         return fail(failureOf(*m_reply));
-    const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-    if (!target.isEmpty())
-        return follow(m_reply->url().resolved(target));
-    if (const int status = statusOf(*m_reply); status != statusOk) {
-        return fail(tr("The server %1 gives an unexpected answer (%2).")
-                        .arg(m_reply->url().host())
-                        .arg(status));
-    }
+    if (statusOf(*m_reply) != statusOk)
+        return turnAway();
     read();
     if (!m_reply)
         return;

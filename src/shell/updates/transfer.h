@@ -36,6 +36,7 @@ Q_SIGNALS:
     void failed(const QString& reason);
 
 private:
+    void turnAway();
     void follow(const QUrl& target);
     void read();
     void finish();
