@@ -14,6 +14,8 @@ namespace {
 /// Leaves room for a number within the 255 bytes that file systems allow.
 constexpr qsizetype mostBytes = 200;
 constexpr qsizetype longestSuffix = 20;
+/// Of more letters only the last are looked at: to shorten a name takes the square of its length.
+constexpr qsizetype mostLetters = 1000;
 
 bool isUnsafe(QChar letter)
 {
@@ -53,7 +55,7 @@ QString safeFileName(const QUrl& url)
 {
     QString name = url.path(QUrl::FullyDecoded);
     name.replace(u'\\', u'/');
-    name = name.section(u'/', -1);
+    name = name.section(u'/', -1).right(mostLetters);
     name.erase(std::remove_if(name.begin(), name.end(), isUnsafe), name.end());
     while (name.startsWith(u'.') || name.startsWith(u' '))
         name.remove(0, 1);
