@@ -93,6 +93,7 @@ void UpdatesAppcastTest::feeds_data()
     row("truncated", start + "<item>" + ten + "</item><item>", "no feed");
     row("something after it", item(ten) + "<rss/>", "no feed");
     row("very deep", start + "<item>" + QByteArray("<description>").repeated(300'000), "no feed");
+    row("endless tag", item(ten + "<x a='" + QByteArray(40'000, '>') + "'/>"), "no feed");
     row("web page", "<!DOCTYPE html><html><body>Sign in</body></html>", "no feed");
     row("harmless document type", "<!DOCTYPE rss>" + item(ten), "10");
     row("entities", "<!DOCTYPE rss [<!ENTITY a 'a'><!ENTITY b '&a;&a;'>]>" + item(ten), "no feed");

@@ -131,7 +131,7 @@ void UpdatesSessionTest::failuresAreToldAndLeaveNothing()
     const QByteArray name = "/Tarnwick%201.3.deb";
     m_server->answer("/html", LoopbackServer::bytes("<html><p>Sign in</p></html>", "200 OK",
                                                     "Content-Type: text/html"));
-    m_server->answer("/long", LoopbackServer::bytes(QByteArray(4 * 1024 * 1024 + 1, ' ')));
+    m_server->answer("/long", LoopbackServer::bytes(QByteArray(1024 * 1024 + 1, ' ')));
     m_server->answer("/broken", LoopbackServer::brokenOff("<rss>"));
     m_server->answer("/away", LoopbackServer::redirect("http://192.0.2.1/feed"));
     m_server->answer("/loop", LoopbackServer::redirect("/loop"));

@@ -13,6 +13,8 @@ namespace tarnwick {
 namespace {
 
 constexpr QStringView sparkle = u"http://www.andymatuschak.org/xml-namespaces/sparkle";
+constexpr qsizetype longestTag = 32'768;
+constexpr qsizetype longestVersion = 64;
 
 struct Enclosure
 {
@@ -132,7 +134,22 @@ std::optional<AppcastItem> itemFor(const QString& system, const RawItem& raw)
         item.length = enclosure->length;
         item.signature = enclosure->signature;
     }
+    item.version.truncate(longestVersion);
+    item.shortVersion.truncate(longestVersion);
     return item.version.isEmpty() ? std::nullopt : std::optional(item);
+}
+
+/// The reader compares each attribute of a tag with all others: some hundred thousand would keep it
+/// busy for hours. No attribute has a "<" in it, and with a zero a text could hide its own.
+bool hasEndlessTag(const QByteArray& bytes)
+{
+    if (bytes.contains('\0'))
+        return true;
+    for (const QLatin1String piece : QLatin1String(bytes).tokenize(u'<')) {
+        if (piece.size() > longestTag)
+            return true;
+    }
+    return false;
 }
 
 /// Leaves the reader at the root element. Entities are refused: a feed has no use for them, and a
@@ -158,7 +175,7 @@ QString appcastSystem()
 std::optional<QList<AppcastItem>> parseAppcast(const QByteArray& bytes, const QString& system)
 {
     QXmlStreamReader xml(bytes);
-    if (!enterFeed(xml))
+    if (hasEndlessTag(bytes) || !enterFeed(xml))
         return {};
 
     QList<AppcastItem> items;

@@ -10,7 +10,8 @@
 
 namespace tarnwick {
 
-/// One version that a feed announces. Everything is as it stands there and may be missing.
+/// One version that a feed announces. Everything is as it stands there, only that endless versions
+/// are cut off, and may be missing.
 struct AppcastItem
 {
     /// The build number, which tells what is newer; never empty.
@@ -38,7 +39,7 @@ struct AppcastItem
 
 /// The items of a feed (RSS 2.0 with Sparkle's elements) that are for everybody on that system:
 /// those of a channel and those of other systems are left out. Nothing where the bytes are no feed,
-/// end early, declare entities, or hold no item at all.
+/// end early, declare entities, go on for too long without a tag, or hold no item at all.
 [[nodiscard]] std::optional<QList<AppcastItem>> parseAppcast(const QByteArray& xml,
                                                              const QString& system);
 

@@ -8,6 +8,13 @@
 
 namespace tarnwick {
 
+namespace {
+
+/// Elements within elements take Qt the square of their number.
+constexpr qsizetype mostLetters = 20'000;
+
+} // namespace
+
 NotesView::NotesView(QWidget* parent)
     : QTextBrowser(parent)
 {
@@ -18,10 +25,11 @@ NotesView::NotesView(QWidget* parent)
 
 void NotesView::showNotes(const AppcastItem& item)
 {
+    const QString notes = item.notes.left(mostLetters);
     if (item.notesArePlainText)
-        setPlainText(item.notes);
+        setPlainText(notes);
     else
-        setText(item.notes);
+        setText(notes);
 }
 
 QVariant NotesView::loadResource(int type, const QUrl& /*url*/)

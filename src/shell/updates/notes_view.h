@@ -7,8 +7,9 @@ namespace tarnwick {
 
 struct AppcastItem;
 
-/// Shows the notes of a version. They come from the network, so nothing they name is loaded, be it
-/// a picture, a style or a file; links lead to the web browser and only to web pages.
+/// Shows the notes of a version, or the beginning of endless ones. They come from the network, so
+/// nothing they name is loaded, be it a picture, a style or a file; links lead to the web browser
+/// and only to web pages.
 class NotesView : public QTextBrowser
 {
     Q_OBJECT

@@ -13,7 +13,7 @@ namespace tarnwick {
 namespace {
 
 constexpr qint64 mebibyte = 1'048'576;
-constexpr qint64 largestFeed = 4 * mebibyte;
+constexpr qint64 largestFeed = mebibyte;
 constexpr qint64 largestDownload = 2048 * mebibyte;
 
 } // namespace
