@@ -20,7 +20,7 @@ class Transfer : public QObject
     Q_OBJECT
 
 public:
-    /// The network has to outlive it.
+    /// When the network goes first, a transfer that goes on ends without a signal.
     Transfer(QNetworkAccessManager& network, qint64 mostBytes, QObject* parent);
     ~Transfer() override;
 

@@ -24,7 +24,8 @@ class UpdateDownload : public QObject
     Q_OBJECT
 
 public:
-    /// The item is downloadable. The network has to outlive this object.
+    /// The item is downloadable. For `start()` the network has to be there; when it goes, the
+    /// download ends without a signal.
     UpdateDownload(AppcastItem item, UpdateSettings settings, QNetworkAccessManager& network,
                    QObject* parent);
     ~UpdateDownload() override;
