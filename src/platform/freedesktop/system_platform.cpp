@@ -28,7 +28,7 @@ QString helper(const QString& name)
 
 QJsonObject readBundleInfo()
 {
-    QFile file(installed(QStringLiteral("../share/tarnwick/Info.json")));
+    QFile file(installed(QStringLiteral(TARNWICK_DATA "/Info.json")));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return QJsonDocument::fromJson(file.readAll()).object();
