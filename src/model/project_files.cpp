@@ -25,7 +25,7 @@ const std::array<ProjectFile, 2>& projectFileKinds()
 
 QString fileUrlText(const QFileInfo& entry)
 {
-    const QString url = QUrl::fromLocalFile(entry.filePath()).toString(QUrl::FullyEncoded);
+    const QString url = QUrl::fromLocalFile(entry.absoluteFilePath()).toString(QUrl::FullyEncoded);
     return entry.isDir() ? url + u'/' : url;
 }
 
