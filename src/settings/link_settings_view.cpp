@@ -41,6 +41,14 @@ QLabel* newHeading(const QString& text, QWidget* parent)
     return heading;
 }
 
+/// The document's own plain text has ordinary spaces in place of those that do not break.
+QString textAsTyped(const QTextDocument& document)
+{
+    return document.toRawText()
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
+}
+
 } // namespace
 
 LinkSettingsView::LinkSettingsView(std::shared_ptr<RepoViewModel> forModel, const QString& text,
@@ -63,7 +71,8 @@ void LinkSettingsView::loadLinks()
 
 void LinkSettingsView::saveLinks()
 {
-    m_store.setObject(m_editor->toPlainText(), preferences::linksKey(m_forModel->name()));
+    m_store.setObject(textAsTyped(*m_editor->document()),
+                      preferences::linksKey(m_forModel->name()));
     m_host.rebuildMenu();
     closeKeyWindow();
 }
