@@ -105,6 +105,8 @@ void LinkSettingsView::layOut()
     m_editor->setMinimumHeight(editorMinimumHeight);
     m_editor->setAccessibleName(tr("Links"));
     m_editor->setLineWrapMode(QPlainTextEdit::NoWrap);
+    // Otherwise the keyboard would not get out of the editor.
+    m_editor->setTabChangesFocus(true);
     column->addWidget(new GreyFrame(m_editor, editorInset, this), 1, Qt::AlignLeft);
 
     auto* const save = new SaveButton(this);
