@@ -82,7 +82,7 @@ void RepositoryRow::setDragged(bool isDragged)
         for (const auto role : {QPalette::WindowText, QPalette::ButtonText})
             colors.setColor(role, colors::white());
     }
-    setPalette(isDragged ? colors : QPalette());
+    setPalette(colors);
     update();
 }
 
