@@ -10,11 +10,6 @@
 
 namespace tarnwick::test {
 
-struct NoDelegate : RepoViewModelDelegate
-{
-    void openLinkEditor(const std::shared_ptr<RepoViewModel>&) override {}
-};
-
 struct RecordingHost : SettingsHost
 {
     void rebuildMenu() override { ++rebuilds; }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
+#include "support/table.h"
 
 #include <functional>
 #include <memory>

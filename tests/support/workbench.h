@@ -18,6 +18,11 @@ struct RecordingTerminal : TerminalLauncher
     QList<TerminalRequest> requests;
 };
 
+struct NoDelegate : RepoViewModelDelegate
+{
+    void openLinkEditor(const std::shared_ptr<RepoViewModel>&) override {}
+};
+
 /// All that records need: real git and real preferences, but a terminal that only takes note.
 struct Workbench
 {
