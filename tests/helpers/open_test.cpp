@@ -57,44 +57,32 @@ void OpenTest::cleanupTestCase()
 
 void OpenTest::opens_data()
 {
-    QTest::addColumn<QByteArray>("entry");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("service");
-    QTest::addColumn<QString>("expected"); // empty: refused
+    // Nothing is expected where the command is refused.
+    const auto row = table<QByteArray, QStringList, QString, QString>("entry", "arguments",
+                                                                      "service", "expected");
     const QString odd = u"it's $(a) %f#\n"_qs;
-    const auto application = [&](const QByteArray& entry, const QString& expected,
-                                 const QString& service = {}) {
-        QTest::newRow(entry.simplified().constData())
-            << entry << QStringList{u"-a"_qs, u"Editor.app"_qs, odd} << service << expected;
-    };
-    application("recorder %f", u"recorder|"_qs + odd);
-    application("recorder -n \"two words\" %F 5%%", u"recorder|-n|two words|"_qs + odd + u"|5%"_qs);
-    application("recorder %c %U", u"recorder|Editor|"_qs + odd);
-    application("recorder", u"recorder|"_qs + odd);
-    application("recorder %f\nTerminal=true", u"xdg-terminal-exec|recorder|"_qs + odd);
+    const QString file = odd + u"/#1 50% \u00fc"_qs;
+    const QStringList app{u"-a"_qs, u"Editor.app"_qs, odd};
+    const QString manager = u"org.freedesktop.FileManager1"_qs;
+    row("path", "recorder %f", app, {}, u"recorder|"_qs + odd);
+    row("words", "recorder -n \"two words\" %F 5%%", app, {},
+        u"recorder|-n|two words|"_qs + odd + u"|5%"_qs);
+    row("name", "recorder %c %U", app, {}, u"recorder|Editor|"_qs + odd);
+    row("no field", "recorder", app, {}, u"recorder|"_qs + odd);
+    row("terminal", "recorder %f\nTerminal=true", app, {}, u"xdg-terminal-exec|recorder|"_qs + odd);
     const QByteArray onBus = "recorder\nDBusActivatable=true";
-    application(onBus, u"Open|it's%20$(a)%20%25f%23%0A"_qs, u"org.tarnwick.Editor"_qs);
-    application(onBus + "\n# but nobody there", {});
-
-    const auto reveal = [](const char* name, const QString& path, const QString& expected,
-                           const QString& service = u"org.freedesktop.FileManager1"_qs) {
-        QTest::newRow(name) << QByteArray("recorder %f") << QStringList{u"--reveal"_qs, path}
-                            << service << expected;
-    };
-    reveal("file", odd + u"/#1 50% \u00fc"_qs,
-           u"ShowItems|it's%20$(a)%20%25f%23%0A/%231%2050%25%20%C3%BC"_qs);
-    reveal("directory", u"d/e/"_qs, u"ShowItems|d/e"_qs);
-    reveal("link to nowhere", u"d/link"_qs, u"ShowItems|d/link"_qs);
-    reveal("deleted with its folder", u"d/gone/deeper/file"_qs, u"ShowItems|d"_qs);
-    reveal("without a file manager", odd + u"/#1 50% \u00fc"_qs, u"recorder|"_qs + odd, {});
-
-    const auto refused = [](const char* name, const QStringList& arguments) {
-        QTest::newRow(name) << QByteArray("recorder") << arguments << QString() << QString();
-    };
-    refused("nothing to do", {});
-    refused("no path", {u"--reveal"_qs, {}});
-    refused("translated name", {u"-a"_qs, u"Schreiber"_qs, u"d"_qs});
-    refused("no such directory", {u"-a"_qs, u"Editor"_qs, u"nowhere"_qs});
+    row("bus", onBus, app, u"org.tarnwick.Editor"_qs, u"Open|it's%20$(a)%20%25f%23%0A"_qs);
+    row("nobody on the bus", onBus, app, {}, {});
+    row("file", {}, {u"--reveal"_qs, file}, manager,
+        u"ShowItems|it's%20$(a)%20%25f%23%0A/%231%2050%25%20%C3%BC"_qs);
+    row("directory", {}, {u"--reveal"_qs, u"d/e/"_qs}, manager, u"ShowItems|d/e"_qs);
+    row("link to nowhere", {}, {u"--reveal"_qs, u"d/link"_qs}, manager, u"ShowItems|d/link"_qs);
+    row("deleted", {}, {u"--reveal"_qs, u"d/gone/deeper/file"_qs}, manager, u"ShowItems|d"_qs);
+    row("no manager", "recorder %f", {u"--reveal"_qs, file}, {}, u"recorder|"_qs + odd);
+    row("nothing to do", "recorder", {}, {}, {});
+    row("no path", "recorder", {u"--reveal"_qs, {}}, {}, {});
+    row("translated name", "recorder", {u"-a"_qs, u"Schreiber"_qs, u"d"_qs}, {}, {});
+    row("no such directory", "recorder", {u"-a"_qs, u"Editor"_qs, u"nowhere"_qs}, {}, {});
 }
 
 void OpenTest::opens()

@@ -3,8 +3,6 @@
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 
-#include <QTest>
-
 #include <sys/stat.h>
 
 using namespace tarnwick;
@@ -46,16 +44,15 @@ void AutostartEntryTest::anyPathIsStarted()
 
 void AutostartEntryTest::refuses_data()
 {
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("program");
+    const auto row = table<QString, QString>("folder", "program");
     // What a device would be to root, a pipe is to this test.
     const QString masked = m_root.filePath(u"masked"_qs);
     QVERIFY(QDir().mkpath(masked));
     QCOMPARE(::mkfifo(QFile::encodeName(masked + u"/pipe"_qs).constData(), 0600), 0);
     QVERIFY(QFile::link(u"pipe"_qs, masked + u"/x.y.Helper.desktop"_qs));
-    QTest::newRow("masked") << masked << u"/bin/sh"_qs;
-    QTest::newRow("not writable") << u"/proc/autostart"_qs << u"/bin/sh"_qs;
-    QTest::newRow("no program") << m_root.path() << m_root.path();
+    row("masked", masked, u"/bin/sh"_qs);
+    row("not writable", u"/proc/autostart"_qs, u"/bin/sh"_qs);
+    row("no program", m_root.path(), m_root.path());
 }
 
 void AutostartEntryTest::refuses()

@@ -19,7 +19,6 @@ private Q_SLOTS:
     void init();
     void lists_data();
     void lists();
-    void unreadable();
     void seesChangesInTheNextTurn();
     void icons_data();
     void icons();
@@ -46,27 +45,21 @@ void DesktopEntriesTest::init()
 
 void DesktopEntriesTest::lists_data()
 {
-    QTest::addColumn<QByteArray>("keys");
-    QTest::addColumn<QString>("otherFile");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const QByteArray& keys, const QString& otherFile, const QString& expected) {
-        QTest::addRow("%s beside %s", keys.simplified().constData(), qPrintable(otherFile))
-            << keys << otherFile << expected;
-    };
+    const auto row = table<QByteArray, QString, QString>("keys", "otherFile", "expected");
     const QString other = u"b/applications/other.desktop"_qs;
-    row("Name=\303\234\nName[de]=Texteditor", other, u"Other.app \u00dc.app,"_qs);
-    row("Name=X\nHidden=true", other, u"Other.app,"_qs);
-    row("Name=X\nNoDisplay=true", other, u"Other.app,"_qs);
-    row("Name=X\nOnlyShowIn=KDE;GNOME;", other, u"Other.app X.app,"_qs);
-    row("Name=X\nOnlyShowIn=KDE;", other, u"Other.app,"_qs);
-    row("Name=X\nNotShowIn=Tarn;", other, u"Other.app,"_qs);
-    row("Name=X\nTryExec=/nonexistent/x", other, u"Other.app,"_qs);
-    row("Name=X\nType=Link", other, u"Other.app,"_qs);
-    row("Name=Other", other, u"Other.app,"_qs);
-    row("Name=X", u"b/applications/k/x.desktop"_qs, u"X.app,"_qs);
-    row("Name=X\nHidden=true", u"b/applications/k-x.desktop"_qs, u","_qs);
-    row("Name=X", u"own/applications/k-x.desktop"_qs, u",Other.app"_qs);
-    row("Name=Other", u"own/applications/y.desktop"_qs, u"Other.app,Other.app"_qs);
+    row("named", "Name=\303\234\nName[de]=Text", other, u"Other.app \u00dc.app,unreadable"_qs);
+    row("hidden", "Name=X\nHidden=true", other, u"Other.app,unreadable"_qs);
+    row("not for menus", "Name=X\nNoDisplay=true", other, u"Other.app,unreadable"_qs);
+    row("here", "Name=X\nOnlyShowIn=KDE;GNOME;", other, u"Other.app X.app,unreadable"_qs);
+    row("elsewhere", "Name=X\nOnlyShowIn=KDE;", other, u"Other.app,unreadable"_qs);
+    row("not here", "Name=X\nNotShowIn=Tarn;", other, u"Other.app,unreadable"_qs);
+    row("gone", "Name=X\nTryExec=/nonexistent/x", other, u"Other.app,unreadable"_qs);
+    row("link", "Name=X\nType=Link", other, u"Other.app,unreadable"_qs);
+    row("same name", "Name=Other", other, u"Other.app,unreadable"_qs);
+    row("same file", "Name=X", u"b/applications/k/x.desktop"_qs, u"X.app,unreadable"_qs);
+    row("masked", "Name=X\nHidden=true", u"b/applications/k-x.desktop"_qs, u",unreadable"_qs);
+    row("user's file", "Name=X", u"own/applications/k-x.desktop"_qs, u",Other.app"_qs);
+    row("both", "Name=Other", u"own/applications/y.desktop"_qs, u"Other.app,Other.app"_qs);
 }
 
 void DesktopEntriesTest::lists()
@@ -77,56 +70,44 @@ void DesktopEntriesTest::lists()
     install(otherFile, "Name=Other");
     QStringList found;
     for (const auto place : {DesktopEntryPlace::System, DesktopEntryPlace::User}) {
-        QStringList names = FreedesktopApplicationFolder(place).entries().value_or(QStringList());
+        const FreedesktopApplicationFolder folder(place);
+        QStringList names = folder.entries().value_or(QStringList(u"unreadable"_qs));
         names.sort();
         found += names.join(u' ');
+        const bool isSystem = place == DesktopEntryPlace::System;
+        QCOMPARE(folder.path(), path(isSystem ? u"a/applications/"_qs : u"own/applications/"_qs));
     }
     QTEST(found.join(u','), "expected");
-}
-
-void DesktopEntriesTest::unreadable()
-{
-    install(u"b/applications/x.desktop"_qs, "Name=X");
-    const FreedesktopApplicationFolder system(DesktopEntryPlace::System);
-    QVERIFY(system.entries());
-    QCOMPARE(system.path(), path(u"b/applications/"_qs));
-    const FreedesktopApplicationFolder own(DesktopEntryPlace::User);
-    QVERIFY(!own.entries());
-    QCOMPARE(own.path(), path(u"own/applications/"_qs));
 }
 
 void DesktopEntriesTest::seesChangesInTheNextTurn()
 {
     const FreedesktopApplicationFolder system(DesktopEntryPlace::System);
     QVERIFY(!system.contains(u"X.app"_qs));
-    install(u"a/applications/x.desktop"_qs, "Name=X");
+    install(u"b/applications/x.desktop"_qs, "Name=X");
     // Neither a pipe without a writer nor a link to nowhere holds anything up.
-    QCOMPARE(::mkfifo(path(u"a/applications/p.desktop"_qs).toUtf8().constData(), 0600), 0);
-    QVERIFY(QFile::link(u"nowhere"_qs, path(u"a/applications/link.desktop"_qs)));
+    QCOMPARE(::mkfifo(path(u"b/applications/p.desktop"_qs).toUtf8().constData(), 0600), 0);
+    QVERIFY(QFile::link(u"nowhere"_qs, path(u"b/applications/link.desktop"_qs)));
     QTRY_VERIFY(system.contains(u"X.app"_qs));
+    QCOMPARE(system.path(), path(u"b/applications/"_qs));
 }
 
 void DesktopEntriesTest::icons_data()
 {
-    QTest::addColumn<QString>("icon");
-    QTest::addColumn<QColor>("color");
-    const auto row = [](const QString& icon, const QColor& color) {
-        QTest::newRow(qPrintable(icon)) << icon << color;
-    };
-    row(u"themed"_qs, Qt::red);
-    row(u"themed.png"_qs, Qt::red);
-    row(u"drawn"_qs, Qt::blue);
-    row(u"loose"_qs, Qt::green);
-    row(u"%1/a/pixmaps/loose.png"_qs, Qt::green);
-    row(u"%1/b/icons/hicolor/apps/drawn.svg"_qs, Qt::blue);
-    row(u"%1/nowhere.svg"_qs, {});
-    row(u"unheard-of"_qs, {});
-    row({}, {});
+    const auto row = table<QColor>("color");
+    row("themed", Qt::red);
+    row("themed.png", Qt::red);
+    row("drawn", Qt::blue);
+    row("loose", Qt::green);
+    row("%1/a/pixmaps/loose.png", Qt::green);
+    row("%1/b/icons/hicolor/apps/drawn.svg", Qt::blue);
+    row("%1/nowhere.svg", {});
+    row("unheard-of", {});
+    row("", {});
 }
 
 void DesktopEntriesTest::icons()
 {
-    QFETCH(QString, icon);
     writeFile(path(u"b/icons/hicolor/index.theme"_qs),
               "[Icon Theme]\nName=Hicolor\nDirectories=apps\n[apps]\nSize=16\nType=Scalable\n");
     writeFile(path(u"b/icons/hicolor/apps/drawn.svg"_qs),
@@ -139,7 +120,7 @@ void DesktopEntriesTest::icons()
     QVERIFY(QDir().mkpath(path(u"a/pixmaps"_qs)));
     QVERIFY(picture.save(path(u"a/pixmaps/loose.png"_qs)));
     install(u"a/applications/x.desktop"_qs,
-            "Name=X\nIcon=" + icon.replace(u"%1"_qs, m_root->path()).toUtf8());
+            "Name=X\nIcon=" + QByteArray(QTest::currentDataTag()).replace("%1", path({}).toUtf8()));
 
     const QIcon shown = FreedesktopApplicationFolder(DesktopEntryPlace::System).icon(u"X.app"_qs);
     QTEST(shown.isNull() ? QColor() : shown.pixmap(16).toImage().pixelColor(8, 8), "color");

@@ -41,23 +41,17 @@ private:
 
 void TerminalTest::choice_data()
 {
-    QTest::addColumn<QString>("installed");
-    QTest::addColumn<QString>("desktops");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const QString& installed, const QString& desktops,
-                        const QString& expected) {
-        QTest::addRow("%s on %s", qPrintable(installed), qPrintable(desktops))
-            << installed << desktops << expected;
-    };
+    const auto row = table<QString, QString, QString>("installed", "desktops", "expected");
     const QString many = u"xterm x-terminal-emulator konsole gnome-terminal xfce4-terminal"_qs;
-    row({}, u"GNOME"_qs, {});
-    row(many + u" xdg-terminal-exec"_qs, u"GNOME"_qs, u"xdg-terminal-exec|sh|cmd"_qs);
-    row(many, u"ubuntu:GNOME"_qs, u"gnome-terminal|--working-directory=/a %d b|--|sh|cmd"_qs);
-    row(many, u"KDE"_qs, u"konsole|--workdir|/a %d b|-e|sh|cmd"_qs);
-    row(many, u"XFCE"_qs, u"xfce4-terminal|--working-directory=/a %d b|-x|sh|cmd"_qs);
-    row(many, u"MATE"_qs, u"x-terminal-emulator|-e|sh|cmd"_qs);
-    row(u"xterm kitty"_qs, {}, u"kitty|--directory=/a %d b|sh|cmd"_qs);
-    row(u"xterm"_qs, {}, u"xterm|-e|sh|cmd"_qs);
+    row("none", {}, u"GNOME"_qs, {});
+    row("chosen", many + u" xdg-terminal-exec"_qs, u"GNOME"_qs, u"xdg-terminal-exec|sh|cmd"_qs);
+    row("GNOME", many, u"ubuntu:GNOME"_qs,
+        u"gnome-terminal|--working-directory=/a %d b|--|sh|cmd"_qs);
+    row("KDE", many, u"KDE"_qs, u"konsole|--workdir|/a %d b|-e|sh|cmd"_qs);
+    row("XFCE", many, u"XFCE"_qs, u"xfce4-terminal|--working-directory=/a %d b|-x|sh|cmd"_qs);
+    row("MATE", many, u"MATE"_qs, u"x-terminal-emulator|-e|sh|cmd"_qs);
+    row("kitty", u"xterm kitty"_qs, {}, u"kitty|--directory=/a %d b|sh|cmd"_qs);
+    row("xterm", u"xterm"_qs, {}, u"xterm|-e|sh|cmd"_qs);
 }
 
 void TerminalTest::choice()
