@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "model/background_queue.h"
-#include "model/command_runner.h"
 #include "model/git_status.h"
-#include "model/preferences_store.h"
 #include "model/repo_manager.h"
 #include "support/stops_process.h"
 #include "support/temporary_repository.h"
@@ -10,7 +7,6 @@
 #include "support/workbench.h"
 
 #include <QSemaphore>
-#include <QTest>
 #include <QThread>
 
 using namespace tarnwick;
@@ -45,41 +41,34 @@ private Q_SLOTS:
     void undecodableOutputAnswersAtOnce();
     void nothingDecodableAnswersNever();
     void openIsAwaited();
-    void openThatCannotStartReturns();
     void hangingJobsGiveUpTheirPlace();
     void stops_data();
     void stops();
 
 private:
     const CommandRunner m_shell{{.git = u"/bin/sh"_qs, .open = u"/bin/sh"_qs}};
-    BackgroundQueue m_queue;
-    RecordingTerminal m_terminal;
-    const PreferencesStore m_store{u"/nonexistent/preferences.json"_qs};
-    const std::shared_ptr<RepoViewModel> m_record =
-        RepoViewModel::create(u"/nonexistent"_qs, nullptr, {m_shell, m_queue, m_terminal, m_store});
+    Workbench m_bench;
+    const std::shared_ptr<RepoViewModel> m_record = m_bench.record(u"/nonexistent"_qs);
 };
 
 void CommandRunnerTest::deliversOnTheMainThread_data()
 {
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("whole, line feed included")
-        << u"echo one; echo two; exit 3"_qs << u"one\ntwo\n"_qs;
-    QTest::newRow("failure is empty") << u"echo fatal >&2; exit 128"_qs << QString();
-    QTest::newRow("letters") << u"printf '\\303\\251\\360\\237\\214\\277'"_qs
-                             << u"\u00e9\U0001f33f"_qs;
-    QTest::newRow("byte order mark stays") << u"printf '\\357\\273\\277x'"_qs << u"\ufeffx"_qs;
-    QTest::newRow("more than a pipe holds on both channels")
-        << u"head -c 300000 /dev/zero | tr '\\0' e >&2; head -c 300000 /dev/zero | tr '\\0' o"_qs
-        << QString(300000, u'o');
-    QTest::newRow("died of a signal") << u"echo so far; kill -KILL $$"_qs << u"so far\n"_qs;
+    const auto row = table<QString, QString>("script", "expected");
+    row("whole, line feed included", u"echo one; echo two; exit 3"_qs, u"one\ntwo\n"_qs);
+    row("failure is empty", u"echo fatal >&2; exit 128"_qs, {});
+    row("letters", u"printf '\\303\\251\\360\\237\\214\\277'"_qs, u"\u00e9\U0001f33f"_qs);
+    row("byte order mark stays", u"printf '\\357\\273\\277x'"_qs, u"\ufeffx"_qs);
+    row("more than a pipe holds on both channels",
+        u"head -c 300000 /dev/zero | tr '\\0' e >&2; head -c 300000 /dev/zero | tr '\\0' o"_qs,
+        QString(300000, u'o'));
+    row("died of a signal", u"echo so far; kill -KILL $$"_qs, u"so far\n"_qs);
 }
 
 void CommandRunnerTest::deliversOnTheMainThread()
 {
     QFETCH(QString, script);
     Delivery delivery;
-    m_queue.post([&] { m_shell.runGit({u"-c"_qs, script}, m_record, into(delivery)); });
+    m_bench.queue.post([&] { m_shell.runGit({u"-c"_qs, script}, m_record, into(delivery)); });
     QTRY_COMPARE(delivery.count, 1);
     QCOMPARE(delivery.thread, QThread::currentThread());
     QTEST(delivery.output, "expected");
@@ -89,7 +78,7 @@ void CommandRunnerTest::undecodableOutputAnswersAtOnce()
 {
     Delivery delivery;
     QSemaphore done;
-    m_queue.post([&] {
+    m_bench.queue.post([&] {
         m_shell.runGit({u"-c"_qs, u"printf 'ok\\377'; echo why >&2"_qs}, m_record, into(delivery));
         done.release();
     });
@@ -115,10 +104,6 @@ void CommandRunnerTest::openIsAwaited()
     const QString proof = dir.filePath(u"it's \"$(done)\""_qs);
     m_shell.runOpen({u"-c"_qs, u"sleep 0.1; echo \"$1\" > \"$1\""_qs, u"open"_qs, proof});
     QVERIFY(QFile::exists(proof));
-}
-
-void CommandRunnerTest::openThatCannotStartReturns()
-{
     CommandRunner({.open = u"/nonexistent/open"_qs}).runOpen({u"-a"_qs, u"x"_qs});
 }
 
@@ -127,28 +112,23 @@ void CommandRunnerTest::hangingJobsGiveUpTheirPlace()
     QSemaphore hung;
     const int places = QThread::idealThreadCount();
     for (int i = 0; i < places; ++i)
-        m_queue.post([&hung] { hung.acquire(); });
+        m_bench.queue.post([&hung] { hung.acquire(); });
     std::atomic_bool ran = false;
-    m_queue.post([&ran] { ran = true; });
+    m_bench.queue.post([&ran] { ran = true; });
     QTRY_VERIFY_WITH_TIMEOUT(ran, 15000);
     hung.release(places);
 }
 
 void CommandRunnerTest::stops_data()
 {
-    QTest::addColumn<std::function<void()>>("action");
-    const auto row = [](const char* name, std::function<void()> action) {
-        QTest::newRow(name) << std::move(action);
-    };
+    const auto row = table<std::function<void()>>("action");
     row("git that cannot be started",
         [this] { CommandRunner({.git = u"/nonexistent/git"_qs}).runGit({}, m_record, {}); });
     row("empty status", [] { static_cast<void>(changedFiles({})); });
     row("status without a line feed", [] { static_cast<void>(changedFiles(u"1?"_qs)); });
     row("list without a delegate", [this] {
-        PreferencesStore store(u"/nonexistent/preferences.json"_qs);
-        store.setObject(u"/a"_qs, u"repos"_qs);
-        const RepoManager list(store, {m_shell, m_queue, m_terminal, store},
-                               [] { return nullptr; });
+        m_bench.store.setObject(u"/a"_qs, u"repos"_qs);
+        const RepoManager list(m_bench.store, m_bench.services(), [] { return nullptr; });
     });
 }
 

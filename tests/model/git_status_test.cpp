@@ -2,9 +2,8 @@
 #include "model/git_status.h"
 #include "support/test_registry.h"
 
-#include <QTest>
-
 using namespace tarnwick;
+using namespace tarnwick::test;
 
 class GitStatusTest : public QObject
 {
@@ -20,13 +19,8 @@ private Q_SLOTS:
 
 void GitStatusTest::summary_data()
 {
-    QTest::addColumn<QString>("gitStatus");
     // "~" stands for the no-break space.
-    QTest::addColumn<QString>("expected");
-
-    const auto row = [](const char* name, const QString& gitStatus, const QString& expected) {
-        QTest::newRow(name) << gitStatus << expected;
-    };
+    const auto row = table<QString, QString>("gitStatus", "expected");
     const QString header = u"## main\n"_qs;
     row("nothing", {}, {});
     row("placeholder", u"1?"_qs, {});
@@ -59,20 +53,14 @@ void GitStatusTest::summary()
 
 void GitStatusTest::changedPaths_data()
 {
-    QTest::addColumn<QString>("gitStatus");
-    QTest::addColumn<QStringList>("expected");
-
-    QTest::newRow("header alone") << u"## main\n"_qs << QStringList();
-    QTest::newRow("both halves at the end")
-        << u"## main\nA  a\nMM b\n M c\n"_qs
-        << QStringList{u"A  a"_qs, u" M c"_qs, u"M  b"_qs, u" M b"_qs};
-    QTest::newRow("several, in their order")
-        << u"## main\nMM b\nMM a\n?? x\n"_qs
-        << QStringList{u"?? x"_qs, u"M  b"_qs, u" M b"_qs, u"M  a"_qs, u" M a"_qs};
-    QTest::newRow("code in the name too")
-        << u"## main\nMM MM x\n"_qs << QStringList{u"M  M  x"_qs, u" M  M x"_qs};
-    QTest::newRow("last line without line feed is lost")
-        << u"## main\n M a\n M b"_qs << QStringList{u" M a"_qs};
+    const auto row = table<QString, QStringList>("gitStatus", "expected");
+    row("header alone", u"## main\n"_qs, {});
+    row("both halves at the end", u"## main\nA  a\nMM b\n M c\n"_qs,
+        {u"A  a"_qs, u" M c"_qs, u"M  b"_qs, u" M b"_qs});
+    row("several, in their order", u"## main\nMM b\nMM a\n?? x\n"_qs,
+        {u"?? x"_qs, u"M  b"_qs, u" M b"_qs, u"M  a"_qs, u" M a"_qs});
+    row("code in the name too", u"## main\nMM MM x\n"_qs, {u"M  M  x"_qs, u" M  M x"_qs});
+    row("last line without line feed is lost", u"## main\n M a\n M b"_qs, {u" M a"_qs});
 }
 
 void GitStatusTest::changedPaths()

@@ -5,9 +5,6 @@
 #include "support/test_registry.h"
 #include "support/workbench.h"
 
-#include <QSignalSpy>
-#include <QTest>
-
 using namespace tarnwick;
 using namespace tarnwick::test;
 
@@ -22,10 +19,8 @@ private Q_SLOTS:
     void remoteIsLearntOnceAtCreation();
     void linksAreReadAsTyped_data();
     void linksAreReadAsTyped();
-    void terminalIsTold_data();
     void terminalIsTold();
     void projectsOfTwoLevelsAreFound();
-    void openGetsItsArguments();
 
 private:
     Workbench m_bench;
@@ -33,11 +28,7 @@ private:
 
 void RepositoryActionsTest::remoteBecomesWebAddress_data()
 {
-    QTest::addColumn<QString>("remote");
-    QTest::addColumn<QString>("address");
-    const auto row = [](const char* name, const QString& remote, const QString& address) {
-        QTest::newRow(name) << remote << address;
-    };
+    const auto row = table<QString, QString>("remote", "address");
     row("scp form", u"git@github.com:owner/repo.git\n"_qs, u"https://github.com/owner/repo"_qs);
     row("https", u"https://github.com/owner/repo.git\n"_qs, u"https://github.com/owner/repo"_qs);
     row("host that does not end in com", u"git@gitlab.gnome.org:owner/repo.git"_qs,
@@ -75,15 +66,11 @@ void RepositoryActionsTest::remoteIsLearntOnceAtCreation()
 
 void RepositoryActionsTest::linksAreReadAsTyped_data()
 {
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QList<RepoLink>>("links");
-    using Links = QList<RepoLink>;
-    QTest::newRow("empty lines") << u"\nhttp://a @@ Docs\n\n"_qs
-                                 << Links{{u"http://a"_qs, u"Docs"_qs}};
-    QTest::newRow("second separator") << u"a @@ b @@ c"_qs << Links{{u"a"_qs, u"b"_qs}};
-    QTest::newRow("spaces belong")
-        << u" a  @@  b \r\nc @@ "_qs << Links{{u" a "_qs, u" b \r"_qs}, {u"c"_qs, {}}};
-    QTest::newRow("empty text") << QString() << Links();
+    const auto row = table<QString, QList<RepoLink>>("stored", "links");
+    row("empty lines", u"\nhttp://a @@ Docs\n\n"_qs, {{u"http://a"_qs, u"Docs"_qs}});
+    row("second separator", u"a @@ b @@ c"_qs, {{u"a"_qs, u"b"_qs}});
+    row("spaces belong", u" a  @@  b \r\nc @@ "_qs, {{u" a "_qs, u" b \r"_qs}, {u"c"_qs, {}}});
+    row("empty text", {}, {});
 }
 
 void RepositoryActionsTest::linksAreReadAsTyped()
@@ -100,35 +87,23 @@ void RepositoryActionsTest::linksAreReadAsTyped()
     }
 }
 
-void RepositoryActionsTest::terminalIsTold_data()
-{
-    using Action = void (RepoViewModel::*)() const;
-    QTest::addColumn<Action>("action");
-    QTest::addColumn<QString>("shellCommand");
-    QTest::addColumn<QStringList>("command");
-    QTest::newRow("push") << &RepoViewModel::push << u"cd '/tmp/x' && git push"_qs
-                          << QStringList{u"git"_qs, u"push"_qs};
-    QTest::newRow("pull") << &RepoViewModel::pull << u"cd '/tmp/x' && git pull"_qs
-                          << QStringList{u"git"_qs, u"pull"_qs};
-    QTest::newRow("stash") << &RepoViewModel::stash << u"cd '/tmp/x' && git stash"_qs
-                           << QStringList{u"git"_qs, u"stash"_qs};
-    QTest::newRow("terminal") << &RepoViewModel::startTerminal << u"cd '/tmp/x'"_qs
-                              << QStringList();
-}
-
 void RepositoryActionsTest::terminalIsTold()
 {
-    using Action = void (RepoViewModel::*)() const;
-    QFETCH(Action, action);
-    QFETCH(QString, shellCommand);
     const auto record = m_bench.record(u"/tmp/x"_qs);
-    ((*record).*action)();
-    const TerminalRequest request = m_bench.terminal.requests.takeLast();
-    QCOMPARE(request.dir, u"/tmp/x"_qs);
-    QTEST(request.command, "command");
-    QCOMPARE(request.appleScript,
-             QString(u"tell application \"Terminal\"\n    activate\n    do script \""_qs +
-                     shellCommand + u"\"\nend tell"_qs));
+    record->push();
+    record->pull();
+    record->stash();
+    record->startTerminal();
+    QStringList told;
+    for (const TerminalRequest& request : m_bench.terminal.requests) {
+        QCOMPARE(request.dir, u"/tmp/x"_qs);
+        const QString command = request.command.join(u' ');
+        const QString line = command.isEmpty() ? command : u" && "_qs + command;
+        QCOMPARE(request.appleScript, u"tell application \"Terminal\"\n    activate\n"
+                                      "    do script \"cd '/tmp/x'%1\"\nend tell"_qs.arg(line));
+        told += command;
+    }
+    QCOMPARE(told, (QStringList{u"git push"_qs, u"git pull"_qs, u"git stash"_qs, {}}));
 }
 
 void RepositoryActionsTest::projectsOfTwoLevelsAreFound()
@@ -153,24 +128,6 @@ void RepositoryActionsTest::projectsOfTwoLevelsAreFound()
     QCOMPARE(paths, (QStringList{u"App.xcodeproj"_qs, u"App.xcodeproj/project.xcworkspace"_qs,
                                  u"a%23b.xcodeproj"_qs, u"ios/My Other.xcworkspace"_qs}));
     QVERIFY(m_bench.record(QString())->projectFiles().isEmpty());
-}
-
-void RepositoryActionsTest::openGetsItsArguments()
-{
-    const QString recorder = m_bench.folder.filePath(u"open"_qs);
-    const QString recorded = m_bench.folder.filePath(u"recorded"_qs);
-    writeFile(recorder, "#!/bin/sh\nprintf '<%s>' \"$@\" >> \"${0%open}recorded\"\n");
-    QVERIFY(QFile::setPermissions(recorder, QFile::ReadOwner | QFile::ExeOwner));
-    const CommandRunner runner({.open = recorder});
-
-    RepoServices services{runner, m_bench.queue, m_bench.terminal, m_bench.store};
-    const QString odd = u"/tmp/a b'\"$(id)\n-x"_qs;
-    RepoViewModel::create(odd, nullptr, services)->openInApp(u"Sublime Text.app"_qs);
-    revealInFinder(odd, runner);
-    QFile file(recorded);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(QString::fromUtf8(file.readAll()),
-             QString(u"<-a><Sublime Text.app><"_qs + odd + u"><--reveal><"_qs + odd + u'>'));
 }
 
 TARNWICK_TEST(RepositoryActionsTest)

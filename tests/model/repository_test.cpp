@@ -3,8 +3,6 @@
 #include "support/test_registry.h"
 #include "support/workbench.h"
 
-#include <QTest>
-
 using namespace tarnwick;
 using namespace tarnwick::test;
 
@@ -42,11 +40,7 @@ private:
 
 void RepositoryTest::readsRealRepositories_data()
 {
-    QTest::addColumn<QStringList>("commands");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* name, const QStringList& commands, const QString& expected) {
-        QTest::newRow(name) << commands << expected;
-    };
+    const auto row = table<QStringList, QString>("commands", "expected");
     const QString upstream = u"git clone -q --bare . ../up.git; git remote add origin ../up.git;"
                              "git fetch -q; git branch -q -u origin/main"_qs;
     const QString ahead = u"echo x >> a; git commit -q -am more"_qs;
@@ -94,10 +88,7 @@ void RepositoryTest::readsLinkedWorkTreesAndSubmodules()
 
 void RepositoryTest::surroundingsChangeNothing_data()
 {
-    QTest::addColumn<QByteArray>("value");
-    const auto row = [](const char* variable, const char* value) {
-        QTest::newRow(variable) << QByteArray(value);
-    };
+    const auto row = table<QByteArray>("value");
     row("LANG", "de_DE.UTF-8");
     row("LANGUAGE", "de:fr");
     row("GIT_DIR", "/nonexistent/.git");
