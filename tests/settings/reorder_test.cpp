@@ -2,9 +2,8 @@
 #include "settings/reorderable_for_each.h"
 #include "support/test_registry.h"
 
-#include <QTest>
-
 using namespace tarnwick;
+using namespace tarnwick::test;
 
 /// The reordering of a list of letters.
 class ReorderTest : public QObject
@@ -14,8 +13,7 @@ class ReorderTest : public QObject
 private Q_SLOTS:
     void drags_data();
     void drags();
-    void staleDragMarksTheNextRow();
-    void switchedOff();
+    void marksWhatIsDraggedNow();
 };
 
 namespace {
@@ -24,12 +22,12 @@ using Letters = ReorderableForEach<QChar>;
 
 struct List
 {
-    explicit List(QString letters, bool allowed = true)
+    explicit List(QString letters)
         : shown(std::move(letters))
         , reorder({[this] { return Letters::Items(shown.cbegin(), shown.cend()); },
                    [this](const Letters::Items& items) { shown = text(items); },
                    [this](const Letters::Items& items) { stored = text(items); }},
-                  [allowed] { return allowed; })
+                  [this] { return isAllowed; })
     {}
 
     static QString text(const Letters::Items& items)
@@ -46,6 +44,7 @@ struct List
 
     QString shown;
     QString stored;
+    bool isAllowed = true;
     Letters reorder;
 };
 
@@ -53,15 +52,8 @@ struct List
 
 void ReorderTest::drags_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QChar>("dragged");
-    QTest::addColumn<QString>("entered");
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<QString>("marked");
-    const auto row = [](const char* name, const QString& before, QChar dragged,
-                        const QString& entered, const QString& after, const QString& marked) {
-        QTest::newRow(name) << before << dragged << entered << after << marked;
-    };
+    const auto row = table<QString, QChar, QString, QString, QString>("before", "dragged",
+                                                                      "entered", "after", "marked");
     row("third of five to the first", u"abcde"_qs, u'c', u"a"_qs, u"cabde"_qs, u"c"_qs);
     row("first of three to the third", u"abc"_qs, u'a', u"c"_qs, u"bca"_qs, u"a"_qs);
     row("to the neighbour and back", u"abc"_qs, u'a', u"bab"_qs, u"abc"_qs, u"a"_qs);
@@ -104,22 +96,16 @@ void ReorderTest::drags()
     QVERIFY(!list.reorder.draggedItem);
 }
 
-void ReorderTest::staleDragMarksTheNextRow()
+void ReorderTest::marksWhatIsDraggedNow()
 {
     List list(u"abc"_qs);
     list.reorder.onDrag(u'a');
     list.reorder.dropDelegate(u'b')->dropEntered();
     list.reorder.onDrag(u'c');
     QCOMPARE(list.marked(), u"c"_qs);
-}
-
-void ReorderTest::switchedOff()
-{
-    List list(u"abc"_qs, false);
-    QVERIFY(!list.reorder.dropDelegate(u'b'));
-    list.reorder.draggedItem = u'b';
-    list.reorder.hasChangedLocation = true;
+    list.isAllowed = false;
     QCOMPARE(list.marked(), QString());
+    QVERIFY(!list.reorder.dropDelegate(u'b'));
 }
 
 TARNWICK_TEST(ReorderTest)

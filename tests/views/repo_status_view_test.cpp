@@ -1,8 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "model/background_queue.h"
-#include "model/command_runner.h"
-#include "model/preferences_store.h"
-#include "model/repo_view_model.h"
 #include "support/pixels.h"
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
@@ -14,7 +10,6 @@
 
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace tarnwick;
 using namespace tarnwick::test;
@@ -51,7 +46,7 @@ class RepoStatusViewTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { m_bench.emplace(); }
     void followsARealRepository();
     void optionsApplyAtOnce();
     void longTextsStayInside();
@@ -60,24 +55,16 @@ private Q_SLOTS:
 private:
     [[nodiscard]] std::unique_ptr<RepoStatusView> shownRow(const QString& dir)
     {
-        m_record = m_bench.record(dir);
-        auto row = std::make_unique<RepoStatusView>(m_record, *m_store);
+        m_record = m_bench->record(dir);
+        auto row = std::make_unique<RepoStatusView>(m_record, m_bench->store);
         row->setPalette(QPalette(QColor(240, 240, 240)));
         row->show();
         return row;
     }
 
-    Workbench m_bench;
-    QTemporaryDir m_folder;
-    std::unique_ptr<PreferencesStore> m_store;
+    std::optional<Workbench> m_bench;
     std::shared_ptr<RepoViewModel> m_record;
 };
-
-void RepoStatusViewTest::init()
-{
-    QFile::remove(m_folder.filePath(u"p.json"_qs));
-    m_store = std::make_unique<PreferencesStore>(m_folder.filePath(u"p.json"_qs));
-}
 
 void RepoStatusViewTest::followsARealRepository()
 {
@@ -112,14 +99,14 @@ void RepoStatusViewTest::optionsApplyAtOnce()
     const auto row = shownRow(repository.dir());
     QTRY_VERIFY(m_record->gitStatus());
     const int cleanHeight = row->sizeHint().height();
-    m_store->setBool(false, u"showCleanRepoStatus"_qs);
+    m_bench->store.setBool(false, u"showCleanRepoStatus"_qs);
     QVERIFY(!shownTexts(*row).contains(u"Repo is clean"_qs));
     QTRY_VERIFY(row->sizeHint().height() < cleanHeight);
 
     repository.run({u"touch n"_qs});
     refreshAll({m_record});
     QTRY_VERIFY(shownTexts(*row).contains(u"1 untracked"_qs));
-    m_store->setBool(true, u"onyIcons"_qs);
+    m_bench->store.setBool(true, u"onyIcons"_qs);
     QVERIFY(shownTexts(*row).contains(u"1"_qs));
 }
 
@@ -154,7 +141,7 @@ void RepoStatusViewTest::logoReplacesTheFolder()
         QCOMPARE(shown.pixelColor(corner), QColor(12, 34, 56));
     QVERIFY(shown.pixelColor(36, top) != QColor(12, 34, 56));
     repository.write(u"TarnwickLogo.png"_qs, "no picture");
-    QVERIFY(!m_bench.record(repository.dir())->logo());
+    QVERIFY(!m_bench->record(repository.dir())->logo());
 }
 
 TARNWICK_TEST(RepoStatusViewTest)

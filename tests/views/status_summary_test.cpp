@@ -3,9 +3,8 @@
 #include "views/colors.h"
 #include "views/status_summary.h"
 
-#include <QTest>
-
 using namespace tarnwick;
+using namespace tarnwick::test;
 
 class StatusSummaryTest : public QObject
 {
@@ -20,37 +19,27 @@ private Q_SLOTS:
 
 void StatusSummaryTest::hexadecimalColors_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QColor>("expected");
-    const auto row = [](const QString& text, const QColor& expected) {
-        QTest::newRow(qPrintable(u'"' + text + u'"')) << text << expected;
-    };
+    const auto row = table<QColor>("expected");
     const QColor fallback(1, 1, 0, 1);
-    row(u"FFB300"_qs, {255, 179, 0});
-    row(u"#ffb300 "_qs, {255, 179, 0});
-    row(u"FB0"_qs, {255, 187, 0});
-    row(u"80FFB300"_qs, {255, 179, 0, 128});
-    row(u"FFB30"_qs, fallback);
-    row(u"#-#"_qs, fallback);
-    row(u"12G456"_qs, {0, 0, 0x12});
-    row(u"\u00e9FFB3\u00e9"_qs, {0, 0, 0});
-    row(u"F F"_qs, {0, 0, 255});
+    row("FFB300", {255, 179, 0});
+    row("#ffb300 ", {255, 179, 0});
+    row("FB0", {255, 187, 0});
+    row("80FFB300", {255, 179, 0, 128});
+    row("FFB30", fallback);
+    row("#-#", fallback);
+    row("12G456", {0, 0, 0x12});
+    row("\303\251FFB3\303\251", {0, 0, 0});
+    row("F F", {0, 0, 255});
 }
 
 void StatusSummaryTest::hexadecimalColors()
 {
-    QFETCH(QString, text);
-    QTEST(colorFromHex(text), "expected");
+    QTEST(colorFromHex(QString::fromUtf8(QTest::currentDataTag())), "expected");
 }
 
 void StatusSummaryTest::parts_data()
 {
-    QTest::addColumn<QString>("glyph");
-    QTest::addColumn<QColor>("dark");
-    QTest::addColumn<QColor>("light");
-    const auto row = [](const char* word, const QString& glyph, QColor dark, QColor light) {
-        QTest::newRow(word) << glyph << dark << light;
-    };
+    const auto row = table<QString, QColor, QColor>("glyph", "dark", "light");
     const auto both = [&](const char* word, const QString& glyph, QColor (*color)(Appearance)) {
         row(word, glyph, color(Appearance::Dark), color(Appearance::Light));
     };

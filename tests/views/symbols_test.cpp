@@ -4,7 +4,6 @@
 
 #include <QFontMetrics>
 #include <QRawFont>
-#include <QTest>
 
 #include <string_view>
 
