@@ -6,7 +6,6 @@
 #include "support/workbench.h"
 
 #include <QTemporaryFile>
-#include <QTest>
 
 using namespace tarnwick;
 using namespace tarnwick::test;
@@ -26,20 +25,17 @@ private:
 
 void LaunchAtLoginTest::start_data()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<QStringList>("running");
-    QTest::addColumn<int>("refusals");
-    QTest::addColumn<QStringList>("calls");
-
+    const auto row =
+        table<QVariant, QStringList, int, QStringList>("stored", "running", "refusals", "calls");
     const QStringList others{u":1.1"_qs, m_helper.toLower(), m_helper + u'2'};
     const QStringList two{m_helper, u"x.y.App"_qs, m_helper};
     const QString post = u"post killTarnwickLauncher x.y.App"_qs;
     const QString set = u"register "_qs + m_helper;
-    QTest::newRow("first") << QVariant() << others << 0 << QStringList{set};
-    QTest::newRow("refused") << QVariant() << others << 1 << QStringList{set, set};
-    QTest::newRow("refused twice") << QVariant(true) << others << 2 << QStringList{set, set};
-    QTest::newRow("helpers") << QVariant(true) << two << 0 << QStringList{post, set};
-    QTest::newRow("off") << QVariant(false) << two << 0 << QStringList{post};
+    row("first", {}, others, 0, {set});
+    row("refused", {}, others, 1, {set, set});
+    row("refused twice", true, others, 2, {set, set});
+    row("helpers", true, two, 0, {post, set});
+    row("off", false, two, 0, {post});
 }
 
 void LaunchAtLoginTest::start()

@@ -4,9 +4,8 @@
 #include "shell/menu/menu_placement.h"
 #include "support/test_registry.h"
 
-#include <QTest>
-
 using namespace tarnwick;
+using namespace tarnwick::test;
 using namespace std::chrono_literals;
 
 class MenuPlacementTest : public QObject
@@ -22,19 +21,12 @@ private Q_SLOTS:
 
 void MenuPlacementTest::menuStaysBesideItem_data()
 {
-    QTest::addColumn<QRect>("item");
-    QTest::addColumn<QRect>("available");
-    QTest::addColumn<QSize>("wanted");
-    QTest::addColumn<QRect>("menu");
-
+    const auto row = table<QRect, QRect, QSize, QRect>("item", "available", "wanted", "menu");
     const QRect bare(0, 0, 1366, 768);
     const QRect belowPanel(0, 26, 1366, 742);
     const QRect abovePanel(0, 0, 1366, 740);
     const QSize menu(340, 268);
     const QSize longMenu(340, 5000);
-    const auto row = [](const char* name, QRect item, QRect available, QSize wanted, QRect result) {
-        QTest::newRow(name) << item << available << wanted << result;
-    };
     row("below", {600, 1, 24, 24}, belowPanel, menu, {600, 26, 340, 268});
     row("below, at the corner", {1340, 1, 24, 24}, belowPanel, menu, {1026, 26, 340, 268});
     row("below, panel without strut", {600, 1, 24, 24}, bare, menu, {600, 25, 340, 268});

@@ -6,8 +6,6 @@
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 
-#include <QTest>
-
 using namespace tarnwick;
 using namespace tarnwick::test;
 
@@ -27,26 +25,19 @@ private Q_SLOTS:
 
 void UpdatesAppcastTest::versions_data()
 {
-    QTest::addColumn<QString>("older");
-    QTest::addColumn<QString>("newer");
-    QTest::addColumn<bool>("areEqual");
-
-    const auto row = [](const char* older, const char* newer, bool areEqual = false) {
-        QTest::addRow("%s and %s", older, newer)
-            << QString::fromLatin1(older) << QString::fromLatin1(newer) << areEqual;
-    };
-    row("1.9", "1.10");
-    row("1.9.9", "2");
-    row("1.0b2", "1.0");
-    row("1.0b2", "1.0b10");
-    row("1.0-beta3", "1.0-rc1");
-    row("1.0b2", "1.0.1");
-    row("1.0", "1.0.0.1");
-    row("99999999999999999998", "99999999999999999999");
-    row("", "0.1");
-    row("1", "1.0.0", true);
-    row("1.02", "1.2", true);
-    row("1.0B2", "1-0_b2", true);
+    const auto row = table<QString, QString, bool>("older", "newer", "areEqual");
+    row("number", u"1.9"_qs, u"1.10"_qs, false);
+    row("shorter", u"1.9.9"_qs, u"2"_qs, false);
+    row("beta", u"1.0b2"_qs, u"1.0"_qs, false);
+    row("number of beta", u"1.0b2"_qs, u"1.0b10"_qs, false);
+    row("letters", u"1.0-beta3"_qs, u"1.0-rc1"_qs, false);
+    row("beta of an older", u"1.0b2"_qs, u"1.0.1"_qs, false);
+    row("longer", u"1.0"_qs, u"1.0.0.1"_qs, false);
+    row("huge", u"99999999999999999998"_qs, u"99999999999999999999"_qs, false);
+    row("empty", {}, u"0.1"_qs, false);
+    row("zeros", u"1"_qs, u"1.0.0"_qs, true);
+    row("leading zero", u"1.02"_qs, u"1.2"_qs, true);
+    row("separators", u"1.0B2"_qs, u"1-0_b2"_qs, true);
 }
 
 void UpdatesAppcastTest::versions()
@@ -60,16 +51,11 @@ void UpdatesAppcastTest::versions()
 
 void UpdatesAppcastTest::feeds_data()
 {
-    QTest::addColumn<QByteArray>("feed");
-    QTest::addColumn<QString>("newest");
-
+    const auto row = table<QByteArray, QByteArray>("feed", "newest");
     const QByteArray start =
         R"(<rss xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel>)";
     const QByteArray end = "</channel></rss>";
     const QByteArray ten = "<sparkle:version>10</sparkle:version>";
-    const auto row = [](const char* name, const QByteArray& feed, const char* newest) {
-        QTest::newRow(name) << feed << QString::fromLatin1(newest);
-    };
     /// What stands in one item, beside another of version 9.
     const auto item = [&](const QByteArray& content) {
         return start + "<item>" + content +
@@ -104,10 +90,10 @@ void UpdatesAppcastTest::feeds_data()
 void UpdatesAppcastTest::feeds()
 {
     QFETCH(QByteArray, feed);
-    QString found = u"no feed"_qs;
+    QByteArray found = "no feed";
     if (const auto items = parseAppcast(feed, u"linux"_qs)) {
         const auto newest = newestItem(*items, u"8"_qs);
-        found = newest ? newest->version : u"none"_qs;
+        found = newest ? newest->version.toLatin1() : "none";
     }
     QTEST(found, "newest");
 }
@@ -135,16 +121,14 @@ void UpdatesAppcastTest::everyFieldIsRead()
 
 void UpdatesAppcastTest::addresses()
 {
-    for (const auto& url : {u"https://example.org/a", u"http://127.9.8.7:80/a", u"http://[::1]/a",
-                            u"http://LOCALHOST/a"})
-        QVERIFY2(isTrustedAddress(QUrl(QString::fromUtf16(url))),
-                 qPrintable(QString::fromUtf16(url)));
-    for (const auto& url :
-         {u"", u"http://example.org/a", u"http://localhost.example.org/", u"ftp://localhost/a",
-          u"http://127.0.0.1.nip.io/", u"http://localhost@example.org/", u"http://0.0.0.0/",
-          u"file:///etc/passwd", u"https:///a", u"//localhost/a"})
-        QVERIFY2(!isTrustedAddress(QUrl(QString::fromUtf16(url))),
-                 qPrintable(QString::fromUtf16(url)));
+    for (const auto* url :
+         {"https://example.org/a", "http://127.9.8.7:80/a", "http://[::1]/a", "http://LOCALHOST/a"})
+        QVERIFY2(isTrustedAddress(QUrl::fromEncoded(url)), url);
+    for (const auto* url :
+         {"", "http://example.org/a", "http://localhost.example.org/", "ftp://localhost/a",
+          "http://127.0.0.1.nip.io/", "http://localhost@example.org/", "http://0.0.0.0/",
+          "file:///etc/passwd", "https:///a", "//localhost/a"})
+        QVERIFY2(!isTrustedAddress(QUrl::fromEncoded(url)), url);
 }
 
 void UpdatesAppcastTest::fileNames()

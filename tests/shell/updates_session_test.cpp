@@ -6,7 +6,6 @@
 #include "support/test_registry.h"
 
 #include <QDesktopServices>
-#include <QTest>
 
 using namespace tarnwick;
 using namespace tarnwick::test;
@@ -77,46 +76,28 @@ void UpdatesSessionTest::aGoodUpdateIsSavedAndOpened()
 /// In each row the update is good but for one thing: another feed or key, or a part of the feed.
 void UpdatesSessionTest::failuresAreToldAndLeaveNothing_data()
 {
-    QTest::addColumn<QByteArray>("feed");
-    QTest::addColumn<QByteArray>("publicKey");
-    QTest::addColumn<QByteArray>("written");
-    QTest::addColumn<QByteArray>("instead");
-    QTest::addColumn<QString>("error");
-
+    const auto row = table<QByteArray, QByteArray, QByteArray, QByteArray, QString>(
+        "feed", "publicKey", "written", "instead", "error");
     const QByteArray key = m_update.publicKey();
-    const auto badFeed = [&](const QByteArray& path, const QString& error) {
-        QTest::newRow(path) << path << key << QByteArray() << QByteArray() << error;
-    };
-    badFeed("/missing", u"refused the request (error 404)"_qs);
-    badFeed("/html", u"cannot be read"_qs);
-    badFeed("/long", u"more than it should"_qs);
-    badFeed("/broken", u"broke the connection off"_qs);
-    badFeed("/away", u"not secure: http://192.0.2.1"_qs);
-    badFeed("/loop", u"without end"_qs);
-
-    const auto badKey = [&](const char* name, const QByteArray& publicKey) {
-        QTest::newRow(name) << QByteArray("/feed") << publicKey << QByteArray() << QByteArray()
-                            << u"without the key"_qs;
-    };
-    badKey("no key", {});
-    badKey("short key", key.mid(4));
-
-    const auto badPart = [&](const QByteArray& written, const QByteArray& instead,
-                             const QString& error) {
-        QTest::addRow("%s for %s", instead.constData(), written.constData())
-            << QByteArray("/feed") << key << written << instead << error;
-    };
+    row("no feed", "/missing", key, {}, {}, u"refused the request (error 404)"_qs);
+    row("web page", "/html", key, {}, {}, u"cannot be read"_qs);
+    row("long feed", "/long", key, {}, {}, u"more than it should"_qs);
+    row("half a feed", "/broken", key, {}, {}, u"broke the connection off"_qs);
+    row("led astray", "/away", key, {}, {}, u"not secure: http://192.0.2.1"_qs);
+    row("led in circles", "/loop", key, {}, {}, u"without end"_qs);
+    row("no key", "/feed", {}, {}, {}, u"without the key"_qs);
+    row("short key", "/feed", key.mid(4), {}, {}, u"without the key"_qs);
     const QByteArray length = "length=\"" + QByteArray::number(m_update.content().size());
-    badPart(m_update.signature(), {}, u"not signed"_qs);
-    badPart(length, "x=\"", u"size"_qs);
-    badPart(length, "length=\"-1", u"size"_qs);
-    badPart(length, "length=\"2147483649", u"size"_qs);
-    badPart("url=\"", "url=\"http://192.0.2.1/", u"no secure address"_qs);
-    badPart("url=", "x=", u"no secure address"_qs);
-    for (const char* const content : {"tampered", "shorter"})
-        badPart("url=\"pkg", QByteArray("url=\"") + content, u"damaged"_qs);
-    badPart("url=\"pkg", "url=\"longer", u"more than it should"_qs);
-    badPart("url=\"pkg", "url=\"broken", u"broke the connection off"_qs);
+    row("unsigned", "/feed", key, m_update.signature(), {}, u"not signed"_qs);
+    row("no length", "/feed", key, length, "x=\"", u"size"_qs);
+    row("negative length", "/feed", key, length, "length=\"-1", u"size"_qs);
+    row("huge", "/feed", key, length, "length=\"2147483649", u"size"_qs);
+    row("elsewhere", "/feed", key, "url=\"", "url=\"http://192.0.2.1/", u"no secure address"_qs);
+    row("nowhere", "/feed", key, "url=", "x=", u"no secure address"_qs);
+    row("tampered", "/feed", key, "url=\"pkg", "url=\"tampered", u"damaged"_qs);
+    row("shorter", "/feed", key, "url=\"pkg", "url=\"shorter", u"damaged"_qs);
+    row("longer", "/feed", key, "url=\"pkg", "url=\"longer", u"more than it should"_qs);
+    row("half", "/feed", key, "url=\"pkg", "url=\"broken", u"broke the connection off"_qs);
 }
 
 void UpdatesSessionTest::failuresAreToldAndLeaveNothing()

@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace tarnwick;
 using namespace tarnwick::test;
@@ -54,9 +53,11 @@ class UpdatesWindowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_settings.downloadFolder = m_folder.path(); }
+    void init()
+    {
+        m_settings = {m_server.url("/feed"), m_update.publicKey(), u"10"_qs, m_folder.path()};
+    }
     void oneCheckAtATime();
-    void canBeCancelledAnyTime_data();
     void canBeCancelledAnyTime();
     void checksNothingWithoutASecureFeed();
     void notesLoadNoFiles();
@@ -65,7 +66,7 @@ private:
     const SignedUpdate m_update{"content"};
     LoopbackServer m_server;
     const QTemporaryDir m_folder;
-    UpdateSettings m_settings{m_server.url("/feed"), m_update.publicKey(), u"10"_qs, {}};
+    UpdateSettings m_settings;
 };
 
 void UpdatesWindowTest::oneCheckAtATime()
@@ -94,41 +95,33 @@ void UpdatesWindowTest::oneCheckAtATime()
     QTRY_COMPARE(windows().size(), 0);
 }
 
-void UpdatesWindowTest::canBeCancelledAnyTime_data()
-{
-    QTest::addColumn<bool>("isFeedSilent");
-    QTest::newRow("while checking") << true;
-    QTest::newRow("while downloading") << false;
-}
-
 void UpdatesWindowTest::canBeCancelledAnyTime()
 {
-    QFETCH(bool, isFeedSilent);
-    m_server.answer("/feed", isFeedSilent ? LoopbackServer::silence()
-                                          : LoopbackServer::bytes(m_update.feed("pkg")));
+    m_settings.buildNumber = u"9"_qs;
     m_server.answer("/pkg", [](QTcpSocket& client) { client.write("HTTP/1.1 200 OK\r\n\r\nco"); });
-    UpdateSettings settings = m_settings;
-    settings.buildNumber = u"9"_qs;
-    StandardUpdaterController controller(settings, true);
-    controller.updater().checkForUpdates();
-    UpdateWindow& window = *windows().first();
-    if (!isFeedSilent) {
-        QTRY_VERIFY(shown(window).contains(u"Tarnwick 1.3 is available"_qs));
-        press(window, u"Download"_qs);
-        QTRY_VERIFY(shown(window).contains(u"2 bytes of 7 bytes"_qs));
+    for (const bool isFeedSilent : {true, false}) {
+        m_server.answer("/feed", isFeedSilent ? LoopbackServer::silence()
+                                              : LoopbackServer::bytes(m_update.feed("pkg")));
+        StandardUpdaterController controller(m_settings, true);
+        controller.updater().checkForUpdates();
+        const UpdateWindow& window = *windows().first();
+        if (!isFeedSilent) {
+            QTRY_VERIFY(shown(window).contains(u"Tarnwick 1.3 is available"_qs));
+            press(window, u"Download"_qs);
+            QTRY_VERIFY(shown(window).contains(u"2 bytes of 7 bytes"_qs));
+        }
+        press(window, u"Cancel"_qs);
+        QTRY_VERIFY(controller.updater().canCheckForUpdates());
+        QTRY_VERIFY(windows().isEmpty());
     }
-    press(window, u"Cancel"_qs);
-    QTRY_VERIFY(controller.updater().canCheckForUpdates());
     QVERIFY(QDir(m_folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 }
 
 void UpdatesWindowTest::checksNothingWithoutASecureFeed()
 {
-    for (const QString& feed : {u""_qs, u"http://example.org/feed"_qs}) {
-        UpdateSettings settings = m_settings;
-        settings.feed = QUrl(feed);
-        StandardUpdaterController controller(settings, true);
-        QVERIFY(!controller.updater().canCheckForUpdates());
+    for (const auto* feed : {"", "http://example.org/feed"}) {
+        m_settings.feed = QUrl::fromEncoded(feed);
+        QVERIFY(!StandardUpdaterController(m_settings, true).updater().canCheckForUpdates());
     }
 }
 
