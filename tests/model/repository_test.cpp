@@ -3,7 +3,6 @@
 #include "support/test_registry.h"
 #include "support/workbench.h"
 
-using namespace tarnwick;
 using namespace tarnwick::test;
 
 /// Records of real repositories, made by real git.
@@ -12,20 +11,129 @@ class RepositoryTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsRealRepositories_data();
-    void readsRealRepositories();
-    void readsLinkedWorkTreesAndSubmodules();
-    void surroundingsChangeNothing_data();
-    void surroundingsChangeNothing();
-    void namesThePathsOfOddFolders();
-    void plainFolderRunsNoGit();
-    void staysWhatItWasAtCreation();
+    void readsRealRepositories_data()
+    {
+        const auto row = table<QStringList, QString>("commands", "expected");
+        const QString upstream =
+            u"git clone -q --bare . ../up.git; git remote add origin ../up.git;"
+            "git fetch -q; git branch -q -u origin/main"_qs;
+        const QString ahead = u"echo x >> a; git commit -q -am more"_qs;
+        const QString behind = u"git reset -q --hard HEAD~; git push -q -f origin HEAD@{1}:main;"
+                               "git fetch -q"_qs;
+
+        row("clean", {}, u"main: clean"_qs);
+        row("level with its upstream", {upstream}, u"main: clean"_qs);
+        row("ahead", {upstream, ahead, ahead}, u"main: 2 ahead"_qs);
+        row("behind", {upstream, ahead, behind}, u"main: 1 behind"_qs);
+        row("diverged", {upstream, ahead, behind, u"echo y > n; git add n; git commit -q -m n"_qs},
+            u"main: 1 behind, 1 ahead"_qs);
+        row("all six of the working tree",
+            {u"echo x >> a; echo x >> b; git add b; git rm -q c; rm d; touch e f; git add e"_qs},
+            u"main: 1 change, 1 added, 1 untracked, 1 staged, 1 removed, 1 deleted"_qs);
+        row("feature branch", {u"git checkout -q -b feature/x"_qs}, u"feature/x: clean"_qs);
+        row("detached head", {u"git checkout -q --detach"_qs}, u"HEAD: clean"_qs);
+        row("unborn branch", {u"rm -rf .git; git init -q -b main"_qs}, u"HEAD: 4 untracked"_qs);
+        row("conflict",
+            {u"git checkout -q -b o; echo o > a; git commit -q -am o"_qs,
+             u"git checkout -q main; echo m > a; git commit -q -am m"_qs,
+             u"git merge -q o || true"_qs},
+            u"main: clean"_qs);
+        row("rename", {u"git mv a z; echo x >> b"_qs}, u"main: 1 change"_qs);
+        row("not git's after all", {u"rm -rf .git; mkdir .git"_qs}, u": clean"_qs);
+    }
+
+    void readsRealRepositories()
+    {
+        QFETCH(QStringList, commands);
+        const TemporaryRepository repository;
+        repository.run(commands);
+        QTEST(settled(*m_bench.record(repository.dir())), "expected");
+    }
+
+    void readsLinkedWorkTreesAndSubmodules()
+    {
+        const TemporaryRepository repository;
+        repository.run({u"git worktree add -q -b side ../tree; touch ../tree/n"_qs,
+                        u"git init -q -b main ../outer; cd ../outer"_qs,
+                        u"git -c protocol.file.allow=always submodule --quiet add ../repo inner"_qs,
+                        u"echo x >> inner/a"_qs});
+        QCOMPARE(settled(*m_bench.record(repository.beside(u"tree"_qs))), u"side: 1 untracked"_qs);
+        QCOMPARE(settled(*m_bench.record(repository.beside(u"outer/inner"_qs))),
+                 u"main: 1 change"_qs);
+    }
+
+    void surroundingsChangeNothing()
+    {
+        const TemporaryRepository repository;
+        repository.run(
+            {u"git clone -q --bare . ../up.git; git remote add origin ../up.git"_qs,
+             u"git fetch -q; git branch -q -u origin/main; git config color.status always"_qs,
+             u"git config color.ui always; git commit -q --allow-empty -m x; echo x >> a"_qs});
+        const std::pair<const char*, const char*> surroundings[]{
+            {"LANG", "de_DE.UTF-8"},
+            {"LANGUAGE", "de:fr"},
+            {"GIT_DIR", "/nonexistent/.git"},
+            {"GIT_WORK_TREE", "/"},
+            {"GIT_INDEX_FILE", "/nonexistent/index"},
+            {"GIT_CONFIG_PARAMETERS", "'status.branch'='false' 'color.status'='always'"},
+            {"GIT_CONFIG_COUNT", "nonsense"}};
+        for (const auto& [variable, value] : surroundings) {
+            qputenv(variable, value);
+            const QString read = settled(*m_bench.record(repository.dir()));
+            qunsetenv(variable);
+            QVERIFY2(read == u"main: 1 change, 1 ahead", variable);
+        }
+    }
+
+    void namesThePathsOfOddFolders()
+    {
+        const TemporaryRepository repository(u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_qs);
+        repository.write(u"A M \u00e9.txt"_qs, "new");
+        const auto odd = m_bench.record(repository.dir());
+        QCOMPARE(odd->name(), u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_qs);
+        QCOMPARE(settled(*odd), u"main: 1 change, 1 untracked"_qs);
+        // Git quotes such a name.
+        QCOMPARE(odd->changedFiles(), QStringList{u"?? \"A M \\303\\251.txt\""_qs});
+        QCOMPARE(m_bench.record(u"/nonexistent/"_qs)->name(), QString());
+    }
+
+    void plainFolderRunsNoGit()
+    {
+        const QTemporaryDir folder;
+        // A record that ran this git would end the process.
+        const CommandRunner noGit{{.git = u"/nonexistent/git"_qs}};
+        const auto plain = RepoViewModel::create(
+            folder.path(), nullptr, {noGit, m_bench.queue, m_bench.terminal, m_bench.store});
+        refreshAll({plain});
+        QVERIFY(!plain->isRepo());
+        QVERIFY(!plain->statusString() && !plain->branchString() && !plain->isLoading());
+    }
+
+    void staysWhatItWasAtCreation()
+    {
+        const TemporaryRepository repository;
+        const auto watched = m_bench.record(repository.dir());
+        QStringList loading;
+        connect(watched.get(), &RepoViewModel::isLoadingChanged, watched.get(),
+                [&] { loading += watched->isLoading() ? u"on"_qs : u"off"_qs; });
+        QCOMPARE(settled(*watched), u"main: clean"_qs);
+        QVERIFY(watched->isMainBranch());
+
+        repository.run({u"git checkout -q -b Main; touch n"_qs});
+        refreshAll({watched});
+        QTRY_COMPARE(watched->statusString(), u"1\u00a0untracked"_qs);
+        QTRY_COMPARE(watched->branchString(), u"Main"_qs);
+        QVERIFY(!watched->isMainBranch());
+        QCOMPARE(loading, (QStringList{u"on"_qs, u"off"_qs, u"on"_qs, u"off"_qs}));
+
+        repository.run({u"rm -rf .git"_qs});
+        refreshAll({watched});
+        QTRY_COMPARE(watched->branchString(), QString());
+        QTRY_VERIFY(!watched->statusString());
+        QVERIFY(watched->isRepo());
+    }
 
 private:
-    [[nodiscard]] std::shared_ptr<RepoViewModel> record(const QString& dir)
-    {
-        return m_bench.record(dir);
-    }
     /// The branch and the summary, once both queries have ended.
     QString settled(const RepoViewModel& record)
     {
@@ -37,129 +145,6 @@ private:
 
     Workbench m_bench;
 };
-
-void RepositoryTest::readsRealRepositories_data()
-{
-    const auto row = table<QStringList, QString>("commands", "expected");
-    const QString upstream = u"git clone -q --bare . ../up.git; git remote add origin ../up.git;"
-                             "git fetch -q; git branch -q -u origin/main"_qs;
-    const QString ahead = u"echo x >> a; git commit -q -am more"_qs;
-    const QString behind = u"git reset -q --hard HEAD~; git push -q -f origin HEAD@{1}:main;"
-                           "git fetch -q"_qs;
-
-    row("clean", {}, u"main: clean"_qs);
-    row("level with its upstream", {upstream}, u"main: clean"_qs);
-    row("ahead", {upstream, ahead, ahead}, u"main: 2 ahead"_qs);
-    row("behind", {upstream, ahead, behind}, u"main: 1 behind"_qs);
-    row("diverged", {upstream, ahead, behind, u"echo y > n; git add n; git commit -q -m n"_qs},
-        u"main: 1 behind, 1 ahead"_qs);
-    row("all six of the working tree",
-        {u"echo x >> a; echo x >> b; git add b; git rm -q c; rm d; touch e f; git add e"_qs},
-        u"main: 1 change, 1 added, 1 untracked, 1 staged, 1 removed, 1 deleted"_qs);
-    row("feature branch", {u"git checkout -q -b feature/x"_qs}, u"feature/x: clean"_qs);
-    row("detached head", {u"git checkout -q --detach"_qs}, u"HEAD: clean"_qs);
-    row("unborn branch", {u"rm -rf .git; git init -q -b main"_qs}, u"HEAD: 4 untracked"_qs);
-    row("conflict",
-        {u"git checkout -q -b o; echo o > a; git commit -q -am o"_qs,
-         u"git checkout -q main; echo m > a; git commit -q -am m"_qs, u"git merge -q o || true"_qs},
-        u"main: clean"_qs);
-    row("rename", {u"git mv a z; echo x >> b"_qs}, u"main: 1 change"_qs);
-    row("not git's after all", {u"rm -rf .git; mkdir .git"_qs}, u": clean"_qs);
-}
-
-void RepositoryTest::readsRealRepositories()
-{
-    QFETCH(QStringList, commands);
-    const TemporaryRepository repository;
-    repository.run(commands);
-    QTEST(settled(*record(repository.dir())), "expected");
-}
-
-void RepositoryTest::readsLinkedWorkTreesAndSubmodules()
-{
-    const TemporaryRepository repository;
-    repository.run({u"git worktree add -q -b side ../tree; touch ../tree/n"_qs,
-                    u"git init -q -b main ../outer; cd ../outer"_qs,
-                    u"git -c protocol.file.allow=always submodule --quiet add ../repo inner"_qs,
-                    u"echo x >> inner/a"_qs});
-    QCOMPARE(settled(*record(repository.beside(u"tree"_qs))), u"side: 1 untracked"_qs);
-    QCOMPARE(settled(*record(repository.beside(u"outer/inner"_qs))), u"main: 1 change"_qs);
-}
-
-void RepositoryTest::surroundingsChangeNothing_data()
-{
-    const auto row = table<QByteArray>("value");
-    row("LANG", "de_DE.UTF-8");
-    row("LANGUAGE", "de:fr");
-    row("GIT_DIR", "/nonexistent/.git");
-    row("GIT_WORK_TREE", "/");
-    row("GIT_INDEX_FILE", "/nonexistent/index");
-    row("GIT_CONFIG_PARAMETERS", "'status.branch'='false' 'color.status'='always'");
-    row("GIT_CONFIG_COUNT", "nonsense");
-}
-
-void RepositoryTest::surroundingsChangeNothing()
-{
-    const char* const variable = QTest::currentDataTag();
-    QFETCH(QByteArray, value);
-    const TemporaryRepository repository;
-    repository.run(
-        {u"git clone -q --bare . ../up.git; git remote add origin ../up.git"_qs,
-         u"git fetch -q; git branch -q -u origin/main; git config color.status always"_qs,
-         u"git config color.ui always; git commit -q --allow-empty -m x; echo x >> a"_qs});
-    qputenv(variable, value);
-    const QString read = settled(*record(repository.dir()));
-    qunsetenv(variable);
-    QCOMPARE(read, u"main: 1 change, 1 ahead"_qs);
-}
-
-void RepositoryTest::namesThePathsOfOddFolders()
-{
-    const TemporaryRepository repository(u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_qs);
-    repository.write(u"A M \u00e9.txt"_qs, "new");
-    const auto odd = record(repository.dir());
-    QCOMPARE(odd->name(), u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_qs);
-    QCOMPARE(settled(*odd), u"main: 1 change, 1 untracked"_qs);
-    // Git quotes such a name.
-    QCOMPARE(odd->changedFiles(), QStringList{u"?? \"A M \\303\\251.txt\""_qs});
-    QCOMPARE(record(u"/nonexistent/"_qs)->name(), QString());
-}
-
-void RepositoryTest::plainFolderRunsNoGit()
-{
-    const QTemporaryDir folder;
-    // A record that ran this git would end the process.
-    const CommandRunner noGit{{.git = u"/nonexistent/git"_qs}};
-    const auto plain = RepoViewModel::create(
-        folder.path(), nullptr, {noGit, m_bench.queue, m_bench.terminal, m_bench.store});
-    refreshAll({plain});
-    QVERIFY(!plain->isRepo());
-    QVERIFY(!plain->statusString() && !plain->branchString() && !plain->isLoading());
-}
-
-void RepositoryTest::staysWhatItWasAtCreation()
-{
-    const TemporaryRepository repository;
-    const auto watched = record(repository.dir());
-    QStringList loading;
-    connect(watched.get(), &RepoViewModel::isLoadingChanged, watched.get(),
-            [&] { loading += watched->isLoading() ? u"on"_qs : u"off"_qs; });
-    QCOMPARE(settled(*watched), u"main: clean"_qs);
-    QVERIFY(watched->isMainBranch());
-
-    repository.run({u"git checkout -q -b Main; touch n"_qs});
-    refreshAll({watched});
-    QTRY_COMPARE(watched->statusString(), u"1\u00a0untracked"_qs);
-    QTRY_COMPARE(watched->branchString(), u"Main"_qs);
-    QVERIFY(!watched->isMainBranch());
-    QCOMPARE(loading, (QStringList{u"on"_qs, u"off"_qs, u"on"_qs, u"off"_qs}));
-
-    repository.run({u"rm -rf .git"_qs});
-    refreshAll({watched});
-    QTRY_COMPARE(watched->branchString(), QString());
-    QTRY_VERIFY(!watched->statusString());
-    QVERIFY(watched->isRepo());
-}
 
 TARNWICK_TEST(RepositoryTest)
 

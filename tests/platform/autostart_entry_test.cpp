@@ -5,7 +5,6 @@
 
 #include <sys/stat.h>
 
-using namespace tarnwick;
 using namespace tarnwick::test;
 
 class AutostartEntryTest : public QObject
@@ -13,54 +12,50 @@ class AutostartEntryTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void anyPathIsStarted();
-    void refuses_data();
-    void refuses();
+    void anyPathIsStarted()
+    {
+        const QString program = m_root.filePath(u"a \"b\" 'c' $HOME `d` \\s \\\\ \n;&é/run"_qs);
+        writeFile(program, "#!/bin/sh\ntouch \"$0.started\"\n");
+        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+        const QString file = m_root.filePath(u"new/x.y.Helper.desktop"_qs);
+        writeFile(file, "[Desktop Entry]\nHidden=true\n");
+        const AutostartEntry entry(m_root.filePath(u"new"_qs), m_name, program);
+        QVERIFY(entry.write());
+        const QDateTime written = QFileInfo(file).fileTime(QFile::FileMetadataChangeTime);
+        QCOMPARE(QProcess::execute(u"gio"_qs, {u"launch"_qs, file}), 0);
+        QTRY_VERIFY(QFile::exists(program + u".started"_qs));
+
+        QVERIFY(entry.write());
+        QCOMPARE(QFileInfo(file).fileTime(QFile::FileMetadataChangeTime), written);
+        QVERIFY(entry.remove());
+        QVERIFY(!QFile::exists(file));
+        QVERIFY(entry.remove());
+    }
+
+    void refuses_data()
+    {
+        const auto row = table<QString, QString>("folder", "program");
+        // What a device would be to root, a pipe is to this test.
+        const QString masked = m_root.filePath(u"masked"_qs);
+        QVERIFY(QDir().mkpath(masked));
+        QCOMPARE(::mkfifo(QFile::encodeName(masked + u"/pipe"_qs).constData(), 0600), 0);
+        QVERIFY(QFile::link(u"pipe"_qs, masked + u"/x.y.Helper.desktop"_qs));
+        row("masked", masked, u"/bin/sh"_qs);
+        row("not writable", u"/proc/autostart"_qs, u"/bin/sh"_qs);
+        row("no program", m_root.path(), m_root.path());
+    }
+
+    void refuses()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, program);
+        QVERIFY(!AutostartEntry(folder, m_name, program).write());
+    }
 
 private:
     const QTemporaryDir m_root;
     const QString m_name = u"x.y.Helper"_qs;
 };
-
-void AutostartEntryTest::anyPathIsStarted()
-{
-    const QString program = m_root.filePath(u"a \"b\" 'c' $HOME `d` \\s \\\\ \n;&é/run"_qs);
-    writeFile(program, "#!/bin/sh\ntouch \"$0.started\"\n");
-    QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
-    const QString file = m_root.filePath(u"new/x.y.Helper.desktop"_qs);
-    writeFile(file, "[Desktop Entry]\nHidden=true\n");
-    const AutostartEntry entry(m_root.filePath(u"new"_qs), m_name, program);
-    QVERIFY(entry.write());
-    const QDateTime written = QFileInfo(file).fileTime(QFile::FileMetadataChangeTime);
-    QCOMPARE(QProcess::execute(u"gio"_qs, {u"launch"_qs, file}), 0);
-    QTRY_VERIFY(QFile::exists(program + u".started"_qs));
-
-    QVERIFY(entry.write());
-    QCOMPARE(QFileInfo(file).fileTime(QFile::FileMetadataChangeTime), written);
-    QVERIFY(entry.remove());
-    QVERIFY(!QFile::exists(file));
-    QVERIFY(entry.remove());
-}
-
-void AutostartEntryTest::refuses_data()
-{
-    const auto row = table<QString, QString>("folder", "program");
-    // What a device would be to root, a pipe is to this test.
-    const QString masked = m_root.filePath(u"masked"_qs);
-    QVERIFY(QDir().mkpath(masked));
-    QCOMPARE(::mkfifo(QFile::encodeName(masked + u"/pipe"_qs).constData(), 0600), 0);
-    QVERIFY(QFile::link(u"pipe"_qs, masked + u"/x.y.Helper.desktop"_qs));
-    row("masked", masked, u"/bin/sh"_qs);
-    row("not writable", u"/proc/autostart"_qs, u"/bin/sh"_qs);
-    row("no program", m_root.path(), m_root.path());
-}
-
-void AutostartEntryTest::refuses()
-{
-    QFETCH(QString, folder);
-    QFETCH(QString, program);
-    QVERIFY(!AutostartEntry(folder, m_name, program).write());
-}
 
 TARNWICK_TEST(AutostartEntryTest)
 

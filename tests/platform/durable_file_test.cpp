@@ -3,7 +3,6 @@
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 
-using namespace tarnwick;
 using namespace tarnwick::test;
 
 class DurableFileTest : public QObject
@@ -11,25 +10,24 @@ class DurableFileTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void onlyTheOwnerMayReadWhatALinkLeadsTo();
+    void onlyTheOwnerMayReadWhatALinkLeadsTo()
+    {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(u"new/deep/file"_qs));
+        const QString link = folder.filePath(u"link"_qs);
+        QVERIFY(replaceFileDurably(file.fileName(), "one"));
+        QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::ReadOther));
+        QVERIFY(QFile::link(u"new/deep/file"_qs, link));
+        QVERIFY(replaceFileDurably(link, "two"));
+        QVERIFY(QFileInfo(link).isSymLink());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("two"));
+        const auto others =
+            QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
+        QVERIFY(!(file.permissions() & others));
+        QVERIFY(!(QFile::permissions(folder.filePath(u"new"_qs)) & others));
+    }
 };
-
-void DurableFileTest::onlyTheOwnerMayReadWhatALinkLeadsTo()
-{
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(u"new/deep/file"_qs));
-    const QString link = folder.filePath(u"link"_qs);
-    QVERIFY(replaceFileDurably(file.fileName(), "one"));
-    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::ReadOther));
-    QVERIFY(QFile::link(u"new/deep/file"_qs, link));
-    QVERIFY(replaceFileDurably(link, "two"));
-    QVERIFY(QFileInfo(link).isSymLink());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("two"));
-    const auto others = QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
-    QVERIFY(!(file.permissions() & others));
-    QVERIFY(!(QFile::permissions(folder.filePath(u"new"_qs)) & others));
-}
 
 TARNWICK_TEST(DurableFileTest)
 

@@ -2,19 +2,7 @@
 #include "settings/reorderable_for_each.h"
 #include "support/test_registry.h"
 
-using namespace tarnwick;
 using namespace tarnwick::test;
-
-/// The reordering of a list of letters.
-class ReorderTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void drags_data();
-    void drags();
-    void marksWhatIsDraggedNow();
-};
 
 namespace {
 
@@ -50,63 +38,70 @@ struct List
 
 } // namespace
 
-void ReorderTest::drags_data()
+/// The reordering of a list of letters.
+class ReorderTest : public QObject
 {
-    const auto row = table<QString, QChar, QString, QString, QString>("before", "dragged",
-                                                                      "entered", "after", "marked");
-    row("third of five to the first", u"abcde"_qs, u'c', u"a"_qs, u"cabde"_qs, u"c"_qs);
-    row("first of three to the third", u"abc"_qs, u'a', u"c"_qs, u"bca"_qs, u"a"_qs);
-    row("to the neighbour and back", u"abc"_qs, u'a', u"bab"_qs, u"abc"_qs, u"a"_qs);
-    row("down row by row", u"abcd"_qs, u'a', u"bacad"_qs, u"bcda"_qs, u"a"_qs);
-    row("over its own row", u"abc"_qs, u'b', u"bb"_qs, u"abc"_qs, u""_qs);
-    row("not left at all", u"abc"_qs, u'b', u""_qs, u"abc"_qs, u""_qs);
-    row("of equals the first moves", u"aba"_qs, u'a', u"b"_qs, u"baa"_qs, u"aa"_qs);
-    row("of equals the first is gone to", u"abb"_qs, u'a', u"b"_qs, u"bab"_qs, u"a"_qs);
-    row("its item is gone", u"abc"_qs, u'x', u"b"_qs, u"abc"_qs, u""_qs);
-    row("the row's item is gone", u"abc"_qs, u'a', u"x"_qs, u"abc"_qs, u""_qs);
-}
+    Q_OBJECT
 
-void ReorderTest::drags()
-{
-    QFETCH(QString, before);
-    QFETCH(QChar, dragged);
-    QFETCH(QString, entered);
-    QFETCH(QString, after);
-    List list(before);
-    list.reorder.dropDelegate(before[0])->dropEntered();
-    QCOMPARE(list.shown, before);
-
-    QCOMPARE(list.reorder.onDrag(dragged), QString::number(qHash(dragged)));
-    QCOMPARE(list.marked(), QString());
-    for (const QChar letter : entered) {
-        const auto row = list.reorder.dropDelegate(letter);
-        QVERIFY(row->validateDrop());
-        row->dropEntered();
-        QCOMPARE(row->dropUpdated(), Qt::MoveAction);
-        row->dropExited();
+private Q_SLOTS:
+    void drags_data()
+    {
+        const auto row = table<QString, QChar, QString, QString, QString>(
+            "before", "dragged", "entered", "after", "marked");
+        row("third of five to the first", u"abcde"_qs, u'c', u"a"_qs, u"cabde"_qs, u"c"_qs);
+        row("first of three to the third", u"abc"_qs, u'a', u"c"_qs, u"bca"_qs, u"a"_qs);
+        row("to the neighbour and back", u"abc"_qs, u'a', u"bab"_qs, u"abc"_qs, u"a"_qs);
+        row("down row by row", u"abcd"_qs, u'a', u"bacad"_qs, u"bcda"_qs, u"a"_qs);
+        row("over its own row", u"abc"_qs, u'b', u"bb"_qs, u"abc"_qs, u""_qs);
+        row("not left at all", u"abc"_qs, u'b', u""_qs, u"abc"_qs, u""_qs);
+        row("of equals the first moves", u"aba"_qs, u'a', u"b"_qs, u"baa"_qs, u"aa"_qs);
+        row("of equals the first is gone to", u"abb"_qs, u'a', u"b"_qs, u"bab"_qs, u"a"_qs);
+        row("its item is gone", u"abc"_qs, u'x', u"b"_qs, u"abc"_qs, u""_qs);
+        row("the row's item is gone", u"abc"_qs, u'a', u"x"_qs, u"abc"_qs, u""_qs);
     }
-    // So it stays when the drag ends outside.
-    QCOMPARE(list.shown, after);
-    QTEST(list.marked(), "marked");
-    QCOMPARE(list.stored, QString());
 
-    QVERIFY(list.reorder.dropDelegate(after[0])->performDrop());
-    QCOMPARE(list.stored, after);
-    QCOMPARE(list.marked(), QString());
-    QVERIFY(!list.reorder.draggedItem);
-}
+    void drags()
+    {
+        QFETCH(QString, before);
+        QFETCH(QChar, dragged);
+        QFETCH(QString, entered);
+        QFETCH(QString, after);
+        List list(before);
+        list.reorder.dropDelegate(before[0])->dropEntered();
+        QCOMPARE(list.shown, before);
 
-void ReorderTest::marksWhatIsDraggedNow()
-{
-    List list(u"abc"_qs);
-    list.reorder.onDrag(u'a');
-    list.reorder.dropDelegate(u'b')->dropEntered();
-    list.reorder.onDrag(u'c');
-    QCOMPARE(list.marked(), u"c"_qs);
-    list.isAllowed = false;
-    QCOMPARE(list.marked(), QString());
-    QVERIFY(!list.reorder.dropDelegate(u'b'));
-}
+        QCOMPARE(list.reorder.onDrag(dragged), QString::number(qHash(dragged)));
+        QCOMPARE(list.marked(), QString());
+        for (const QChar letter : entered) {
+            const auto row = list.reorder.dropDelegate(letter);
+            QVERIFY(row->validateDrop());
+            row->dropEntered();
+            QCOMPARE(row->dropUpdated(), Qt::MoveAction);
+            row->dropExited();
+        }
+        // So it stays when the drag ends outside.
+        QCOMPARE(list.shown, after);
+        QTEST(list.marked(), "marked");
+        QCOMPARE(list.stored, QString());
+
+        QVERIFY(list.reorder.dropDelegate(after[0])->performDrop());
+        QCOMPARE(list.stored, after);
+        QCOMPARE(list.marked(), QString());
+        QVERIFY(!list.reorder.draggedItem);
+    }
+
+    void marksWhatIsDraggedNow()
+    {
+        List list(u"abc"_qs);
+        list.reorder.onDrag(u'a');
+        list.reorder.dropDelegate(u'b')->dropEntered();
+        list.reorder.onDrag(u'c');
+        QCOMPARE(list.marked(), u"c"_qs);
+        list.isAllowed = false;
+        QCOMPARE(list.marked(), QString());
+        QVERIFY(!list.reorder.dropDelegate(u'b'));
+    }
+};
 
 TARNWICK_TEST(ReorderTest)
 

@@ -13,7 +13,6 @@
 #include <QTabWidget>
 #include <QToolButton>
 
-using namespace tarnwick;
 using namespace tarnwick::test;
 
 /// The list of repositories, edited in one of two windows.
@@ -22,11 +21,84 @@ class RepositoriesViewTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void addsWhatIsTyped();
-    void removesAllOfADirectory();
-    void movesByKeyboard();
-    void dropStoresWhatTheDragMoved();
+    void init()
+    {
+        m_view.reset();
+        m_other.reset();
+        m_fixture = std::make_unique<SettingsFixture>();
+        m_fixture->bench.store.setObject(u"/n/a\n/n/b\n/n/c\n/n/b"_qs, u"repos"_qs);
+        m_fixture->mgr.setModels(m_fixture->mgr.loadRepos());
+        m_other = m_fixture->view();
+        m_view = m_fixture->view();
+        m_view->findChild<QTabWidget*>()->setCurrentIndex(1);
+        m_column = m_view->findChild<ReorderableColumn*>();
+        m_view->show();
+        m_view->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
+    }
+
+    void addsWhatIsTyped()
+    {
+        auto* const path = m_view->findChild<QLineEdit*>();
+        auto* const add = row(0)->window()->findChildren<QPushButton*>().first();
+        QCOMPARE(add->text(), u"add repo"_qs);
+        for (const auto* text : {u" ~/x ", u"", u""}) {
+            path->setText(QString::fromUtf16(text));
+            QTest::keyClick(path, Qt::Key_Return);
+            add->click();
+            QCOMPARE(path->text(), QString::fromUtf16(text));
+        }
+        QCOMPARE(m_fixture->stored().join(u','), u",, ~/x ,/n/a,/n/b,/n/c,/n/b"_qs);
+        QCOMPARE(m_column->rows().size(), 7);
+        QCOMPARE(shown(*m_other), shown(*m_view));
+    }
+
+    void removesAllOfADirectory()
+    {
+        QCOMPARE(row(1)->findChild<QToolButton*>()->accessibleName(), u"Remove b"_qs);
+        answer(1, u"Keep it"_qs);
+        answer(1, {});
+        QCOMPARE(m_fixture->stored().size(), 4);
+        answer(3, u"Remove it"_qs);
+        QCOMPARE(m_fixture->stored(), (QStringList{u"/n/a"_qs, u"/n/c"_qs}));
+        QCOMPARE(shown(*m_view), u"a c"_qs);
+        QCOMPARE(shown(*m_other), u"a c"_qs);
+    }
+
+    void movesByKeyboard()
+    {
+        const QPointer<ReorderableRow> c = row(2);
+        c->setFocus();
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up, Qt::AltModifier);
+        QCOMPARE(shown(*m_other), u"c a b b"_qs);
+        QCOMPARE(m_fixture->stored().first(), u"/n/c"_qs);
+        QCOMPARE(QApplication::focusWidget(), c);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        QCOMPARE(QApplication::focusWidget(), row(1));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), row(1)->findChild<QToolButton*>());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), m_view->findChild<QLineEdit*>());
+    }
+
+    void dropStoresWhatTheDragMoved()
+    {
+        QVERIFY(drag<QDragEnterEvent>(0));
+        QVERIFY(drag<QDragMoveEvent>(1));
+        QCOMPARE(shown(*m_view), u"a b c b"_qs);
+
+        row(2)->dragSource()();
+        QVERIFY(drag<QDragMoveEvent>(0));
+        QVERIFY(!drag<QDragMoveEvent>(5));
+        QCOMPARE(shown(*m_other), u"c a b b"_qs);
+        QVERIFY(!drag<QDropEvent>(5));
+        QCOMPARE(m_fixture->stored().first(), u"/n/a"_qs);
+        QVERIFY(drag<QDragEnterEvent>(3));
+        QVERIFY(drag<QDropEvent>(3));
+        QCOMPARE(m_fixture->stored(),
+                 (QStringList{u"/n/c"_qs, u"/n/a"_qs, u"/n/b"_qs, u"/n/b"_qs}));
+    }
 
 private:
     [[nodiscard]] ReorderableRow* row(int index) const
@@ -40,119 +112,39 @@ private:
             names += row->accessibleName().section(u"/"_qs, -1);
         return names.join(u' ');
     }
-    void answer(int index, const QString& button) const;
+
+    void answer(int index, const QString& button) const
+    {
+        row(index)->findChild<QToolButton*>()->click();
+        auto* const alert = m_view->findChild<QMessageBox*>();
+        QCOMPARE(alert->text(), u"Please confirm the removal"_qs);
+        QVERIFY(alert->isModal());
+        if (button.isEmpty())
+            QTest::keyClick(alert, Qt::Key_Escape);
+        for (auto* choice : alert->buttons()) {
+            if (choice->text() == button)
+                choice->click();
+        }
+        QTRY_VERIFY(!m_view->findChild<QMessageBox*>());
+    }
+
     template <typename Event>
-    bool drag(int overRow) const;
+    bool drag(int overRow) const
+    {
+        QMimeData text;
+        text.setText(u"payload"_qs);
+        const QPoint position(100, overRow * row(0)->height() + row(0)->height() / 2);
+        Event event(position, Qt::MoveAction | Qt::CopyAction, &text, Qt::LeftButton,
+                    Qt::NoModifier);
+        QApplication::sendEvent(m_column->viewport(), &event);
+        return event.isAccepted();
+    }
 
     std::unique_ptr<SettingsFixture> m_fixture;
     std::unique_ptr<SettingsView> m_view;
     std::unique_ptr<SettingsView> m_other;
     ReorderableColumn* m_column = nullptr;
 };
-
-void RepositoriesViewTest::init()
-{
-    m_view.reset();
-    m_other.reset();
-    m_fixture = std::make_unique<SettingsFixture>();
-    m_fixture->bench.store.setObject(u"/n/a\n/n/b\n/n/c\n/n/b"_qs, u"repos"_qs);
-    m_fixture->mgr.setModels(m_fixture->mgr.loadRepos());
-    m_other = m_fixture->view();
-    m_view = m_fixture->view();
-    m_view->findChild<QTabWidget*>()->setCurrentIndex(1);
-    m_column = m_view->findChild<ReorderableColumn*>();
-    m_view->show();
-    m_view->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
-}
-
-void RepositoriesViewTest::answer(int index, const QString& button) const
-{
-    row(index)->findChild<QToolButton*>()->click();
-    auto* const alert = m_view->findChild<QMessageBox*>();
-    QCOMPARE(alert->text(), u"Please confirm the removal"_qs);
-    QVERIFY(alert->isModal());
-    if (button.isEmpty())
-        QTest::keyClick(alert, Qt::Key_Escape);
-    for (auto* choice : alert->buttons()) {
-        if (choice->text() == button)
-            choice->click();
-    }
-    QTRY_VERIFY(!m_view->findChild<QMessageBox*>());
-}
-
-template <typename Event>
-bool RepositoriesViewTest::drag(int overRow) const
-{
-    QMimeData text;
-    text.setText(u"payload"_qs);
-    const QPoint position(100, overRow * row(0)->height() + row(0)->height() / 2);
-    Event event(position, Qt::MoveAction | Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(m_column->viewport(), &event);
-    return event.isAccepted();
-}
-
-void RepositoriesViewTest::addsWhatIsTyped()
-{
-    auto* const path = m_view->findChild<QLineEdit*>();
-    auto* const add = row(0)->window()->findChildren<QPushButton*>().first();
-    QCOMPARE(add->text(), u"add repo"_qs);
-    for (const auto* text : {u" ~/x ", u"", u""}) {
-        path->setText(QString::fromUtf16(text));
-        QTest::keyClick(path, Qt::Key_Return);
-        add->click();
-        QCOMPARE(path->text(), QString::fromUtf16(text));
-    }
-    QCOMPARE(m_fixture->stored().join(u','), u",, ~/x ,/n/a,/n/b,/n/c,/n/b"_qs);
-    QCOMPARE(m_column->rows().size(), 7);
-    QCOMPARE(shown(*m_other), shown(*m_view));
-}
-
-void RepositoriesViewTest::removesAllOfADirectory()
-{
-    QCOMPARE(row(1)->findChild<QToolButton*>()->accessibleName(), u"Remove b"_qs);
-    answer(1, u"Keep it"_qs);
-    answer(1, {});
-    QCOMPARE(m_fixture->stored().size(), 4);
-    answer(3, u"Remove it"_qs);
-    QCOMPARE(m_fixture->stored(), (QStringList{u"/n/a"_qs, u"/n/c"_qs}));
-    QCOMPARE(shown(*m_view), u"a c"_qs);
-    QCOMPARE(shown(*m_other), u"a c"_qs);
-}
-
-void RepositoriesViewTest::movesByKeyboard()
-{
-    const QPointer<ReorderableRow> c = row(2);
-    c->setFocus();
-    for (int i = 0; i < 3; ++i)
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up, Qt::AltModifier);
-    QCOMPARE(shown(*m_other), u"c a b b"_qs);
-    QCOMPARE(m_fixture->stored().first(), u"/n/c"_qs);
-    QCOMPARE(QApplication::focusWidget(), c);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-    QCOMPARE(QApplication::focusWidget(), row(1));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget(), row(1)->findChild<QToolButton*>());
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget(), m_view->findChild<QLineEdit*>());
-}
-
-void RepositoriesViewTest::dropStoresWhatTheDragMoved()
-{
-    QVERIFY(drag<QDragEnterEvent>(0));
-    QVERIFY(drag<QDragMoveEvent>(1));
-    QCOMPARE(shown(*m_view), u"a b c b"_qs);
-
-    row(2)->dragSource()();
-    QVERIFY(drag<QDragMoveEvent>(0));
-    QVERIFY(!drag<QDragMoveEvent>(5));
-    QCOMPARE(shown(*m_other), u"c a b b"_qs);
-    QVERIFY(!drag<QDropEvent>(5));
-    QCOMPARE(m_fixture->stored().first(), u"/n/a"_qs);
-    QVERIFY(drag<QDragEnterEvent>(3));
-    QVERIFY(drag<QDropEvent>(3));
-    QCOMPARE(m_fixture->stored(), (QStringList{u"/n/c"_qs, u"/n/a"_qs, u"/n/b"_qs, u"/n/b"_qs}));
-}
 
 TARNWICK_TEST(RepositoriesViewTest)
 

@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QLabel>
 
-using namespace tarnwick;
 using namespace tarnwick::test;
 
 namespace {
@@ -29,98 +28,94 @@ class SettingsViewTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void optionsFollowTheStore();
-    void savingClosesOnlyTheKeyWindow();
-    void listsApplications_data();
-    void listsApplications();
-    void switchesApplications();
-};
+    void optionsFollowTheStore()
+    {
+        SettingsFixture f;
+        const auto one = f.view();
+        const auto other = f.view();
+        const QString launch = u"Launch on startup"_qs;
+        const QString icons = u"Use only icons in repo statuses"_qs;
+        QVERIFY(buttonNamed(*one, launch)->isChecked());
+        QVERIFY(buttonNamed(*one, u"Show clean repo status"_qs)->isChecked());
+        QVERIFY(!buttonNamed(*one, icons)->isChecked());
+        QVERIFY(
+            !buttonNamed(*one, u"Refresh repos automatically when menu is opened"_qs)->isChecked());
+        const auto labels = one->findChildren<QLabel*>();
+        QVERIFY(std::ranges::any_of(labels, [](auto* l) { return l->text() == u"version 42"; }));
 
-void SettingsViewTest::optionsFollowTheStore()
-{
-    SettingsFixture f;
-    const auto one = f.view();
-    const auto other = f.view();
-    const QString launch = u"Launch on startup"_qs;
-    const QString icons = u"Use only icons in repo statuses"_qs;
-    QVERIFY(buttonNamed(*one, launch)->isChecked());
-    QVERIFY(buttonNamed(*one, u"Show clean repo status"_qs)->isChecked());
-    QVERIFY(!buttonNamed(*one, icons)->isChecked());
-    QVERIFY(!buttonNamed(*one, u"Refresh repos automatically when menu is opened"_qs)->isChecked());
-    const auto labels = one->findChildren<QLabel*>();
-    QVERIFY(std::ranges::any_of(labels, [](auto* l) { return l->text() == u"version 42"; }));
+        f.bench.store.setBool(true, u"onyIcons"_qs);
+        QVERIFY(buttonNamed(*one, icons)->isChecked());
+        buttonNamed(*one, icons)->click();
+        QVERIFY(!buttonNamed(*other, icons)->isChecked());
+        QCOMPARE(f.bench.store.dictionaryRepresentation(), (QVariantMap{{u"onyIcons"_qs, false}}));
+        QCOMPARE(f.host.logins, QList<bool>());
 
-    f.bench.store.setBool(true, u"onyIcons"_qs);
-    QVERIFY(buttonNamed(*one, icons)->isChecked());
-    buttonNamed(*one, icons)->click();
-    QVERIFY(!buttonNamed(*other, icons)->isChecked());
-    QCOMPARE(f.bench.store.dictionaryRepresentation(), (QVariantMap{{u"onyIcons"_qs, false}}));
-    QCOMPARE(f.host.logins, QList<bool>());
-
-    buttonNamed(*one, launch)->click();
-    QVERIFY(!buttonNamed(*other, launch)->isChecked());
-    f.bench.store.setBool(false, u"launchOnStartup"_qs);
-    buttonNamed(*other, launch)->click();
-    QCOMPARE(f.host.logins, (QList<bool>{false, true}));
-    QCOMPARE(f.host.rebuilds, 0);
-}
-
-void SettingsViewTest::savingClosesOnlyTheKeyWindow()
-{
-    SettingsFixture f;
-    const auto one = f.view();
-    const auto other = f.view();
-    one->show();
-    other->show();
-    other->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(other.get()));
-    QCOMPARE(other->size(), QSize(600, 600));
-    buttonNamed(*other, u"Save and close settings"_qs)->click();
-    QCOMPARE(f.host.rebuilds, 1);
-    QVERIFY(!other->isVisible());
-    QVERIFY(one->isVisible());
-}
-
-void SettingsViewTest::listsApplications_data()
-{
-    const auto row = table<QString, QString, QString>("system", "user", "expected");
-    row("by character code, applications only", u"b.app notes.txt Utilities A.app C.APP"_qs,
-        u"."_qs, u"A.app b.app"_qs);
-    row("one part after the other, doubles too", u"z.app m.app"_qs, u"m.app a.app"_qs,
-        u"m.app z.app a.app m.app"_qs);
-    row("unreadable", u"a.app"_qs, {}, u"a.app Unable to read %1/user/*.app"_qs);
-    row("both unreadable", {}, {},
-        u"Unable to read %1/system/*.app Unable to read %1/user/*.app"_qs);
-}
-
-void SettingsViewTest::listsApplications()
-{
-    QFETCH(QString, system);
-    QFETCH(QString, user);
-    QFETCH(QString, expected);
-    SettingsFixture f;
-    for (const auto& [path, names] : {std::pair(f.system.path(), system), {f.user.path(), user}}) {
-        for (const QString& name : names.split(u' ', Qt::SkipEmptyParts))
-            QVERIFY(QDir().mkpath(path + name));
+        buttonNamed(*one, launch)->click();
+        QVERIFY(!buttonNamed(*other, launch)->isChecked());
+        f.bench.store.setBool(false, u"launchOnStartup"_qs);
+        buttonNamed(*other, launch)->click();
+        QCOMPARE(f.host.logins, (QList<bool>{false, true}));
+        QCOMPARE(f.host.rebuilds, 0);
     }
-    QCOMPARE(AppList(f.system, f.user).list().join(u' '),
-             expected.replace(u"%1"_qs, f.bench.folder.path()));
-}
 
-void SettingsViewTest::switchesApplications()
-{
-    SettingsFixture f;
-    const QString name = u"R & D.app"_qs;
-    QVERIFY(QDir(f.bench.folder.path()).mkpath(u"user/"_qs + name));
-    f.bench.store.setBool(true, u"showinapps___"_qs + name);
-    const auto view = f.view();
-    auto* const box = buttonNamed(*view, name);
-    QVERIFY(box && box->isChecked());
-    box->click();
-    QVERIFY(!f.bench.store.boolForKey(u"showinapps___"_qs + name));
-    QVERIFY(!appIcon(name, f.system, f.user).isNull());
-    QVERIFY(appIcon(u"None.app"_qs, f.system, f.user).isNull());
-}
+    void savingClosesOnlyTheKeyWindow()
+    {
+        SettingsFixture f;
+        const auto one = f.view();
+        const auto other = f.view();
+        one->show();
+        other->show();
+        other->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(other.get()));
+        QCOMPARE(other->size(), QSize(600, 600));
+        buttonNamed(*other, u"Save and close settings"_qs)->click();
+        QCOMPARE(f.host.rebuilds, 1);
+        QVERIFY(!other->isVisible());
+        QVERIFY(one->isVisible());
+    }
+
+    void listsApplications_data()
+    {
+        const auto row = table<QString, QString, QString>("system", "user", "expected");
+        row("by character code, applications only", u"b.app notes.txt Utilities A.app C.APP"_qs,
+            u"."_qs, u"A.app b.app"_qs);
+        row("one part after the other, doubles too", u"z.app m.app"_qs, u"m.app a.app"_qs,
+            u"m.app z.app a.app m.app"_qs);
+        row("unreadable", u"a.app"_qs, {}, u"a.app Unable to read %1/user/*.app"_qs);
+        row("both unreadable", {}, {},
+            u"Unable to read %1/system/*.app Unable to read %1/user/*.app"_qs);
+    }
+
+    void listsApplications()
+    {
+        QFETCH(QString, system);
+        QFETCH(QString, user);
+        QFETCH(QString, expected);
+        SettingsFixture f;
+        for (const auto& [path, names] :
+             {std::pair(f.system.path(), system), {f.user.path(), user}}) {
+            for (const QString& name : names.split(u' ', Qt::SkipEmptyParts))
+                QVERIFY(QDir().mkpath(path + name));
+        }
+        QCOMPARE(AppList(f.system, f.user).list().join(u' '),
+                 expected.replace(u"%1"_qs, f.bench.folder.path()));
+    }
+
+    void switchesApplications()
+    {
+        SettingsFixture f;
+        const QString name = u"R & D.app"_qs;
+        QVERIFY(QDir(f.bench.folder.path()).mkpath(u"user/"_qs + name));
+        f.bench.store.setBool(true, u"showinapps___"_qs + name);
+        const auto view = f.view();
+        auto* const box = buttonNamed(*view, name);
+        QVERIFY(box && box->isChecked());
+        box->click();
+        QVERIFY(!f.bench.store.boolForKey(u"showinapps___"_qs + name));
+        QVERIFY(!appIcon(name, f.system, f.user).isNull());
+        QVERIFY(appIcon(u"None.app"_qs, f.system, f.user).isNull());
+    }
+};
 
 TARNWICK_TEST(SettingsViewTest)
 

@@ -14,7 +14,6 @@
 #include <QApplication>
 #include <QTest>
 
-using namespace tarnwick;
 using namespace tarnwick::test;
 
 namespace {
@@ -40,33 +39,31 @@ class AppDelegateTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void rebuildReplacesTheMenuAsAWhole();
+    void rebuildReplacesTheMenuAsAWhole()
+    {
+        Platform platform;
+        platform.trayHost = std::make_unique<NoTrayHost>();
+        platform.systemApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_qs);
+        platform.userApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_qs);
+        platform.bundleInfo = {{u"CFBundleVersion"_qs, u"42"_qs}};
+        platform.loginServices = std::make_unique<RecordingLoginServices>();
+        Workbench bench;
+        bench.store.setObject(u"/nonexistent/a"_qs, u"repos"_qs);
+        AppDelegate delegate(platform, bench.store, bench.services());
+        QVERIFY(!AppDelegate::shared());
+        delegate.applicationDidFinishLaunching();
+        QCOMPARE(AppDelegate::shared(), &delegate);
+
+        Q_EMIT delegate.statusBarItem().triggered(QRect(600, 0, 24, 24));
+        QTRY_COMPARE(menusVisible(), 1);
+        delegate.repoManager().add(u"/nonexistent/b"_qs, nullptr);
+        QCOMPARE(delegate.appMenu().models().size(), 1);
+        rebuildMenu();
+        QCOMPARE(delegate.appMenu().models(), delegate.repoManager().models());
+        QCOMPARE(delegate.appMenu().models().size(), 2);
+        QTRY_COMPARE(menusVisible(), 0);
+    }
 };
-
-void AppDelegateTest::rebuildReplacesTheMenuAsAWhole()
-{
-    Platform platform;
-    platform.trayHost = std::make_unique<NoTrayHost>();
-    platform.systemApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_qs);
-    platform.userApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_qs);
-    platform.bundleInfo = {{u"CFBundleVersion"_qs, u"42"_qs}};
-    platform.loginServices = std::make_unique<RecordingLoginServices>();
-    Workbench bench;
-    bench.store.setObject(u"/nonexistent/a"_qs, u"repos"_qs);
-    AppDelegate delegate(platform, bench.store, bench.services());
-    QVERIFY(!AppDelegate::shared());
-    delegate.applicationDidFinishLaunching();
-    QCOMPARE(AppDelegate::shared(), &delegate);
-
-    Q_EMIT delegate.statusBarItem().triggered(QRect(600, 0, 24, 24));
-    QTRY_COMPARE(menusVisible(), 1);
-    delegate.repoManager().add(u"/nonexistent/b"_qs, nullptr);
-    QCOMPARE(delegate.appMenu().models().size(), 1);
-    rebuildMenu();
-    QCOMPARE(delegate.appMenu().models(), delegate.repoManager().models());
-    QCOMPARE(delegate.appMenu().models().size(), 2);
-    QTRY_COMPARE(menusVisible(), 0);
-}
 
 TARNWICK_TEST(AppDelegateTest)
 

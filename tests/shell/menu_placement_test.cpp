@@ -4,7 +4,6 @@
 #include "shell/menu/menu_placement.h"
 #include "support/test_registry.h"
 
-using namespace tarnwick;
 using namespace tarnwick::test;
 using namespace std::chrono_literals;
 
@@ -13,74 +12,69 @@ class MenuPlacementTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void menuStaysBesideItem_data();
-    void menuStaysBesideItem();
-    void pointerHeadsForSubmenu();
-    void oneClickIsAnsweredOnce();
-};
-
-void MenuPlacementTest::menuStaysBesideItem_data()
-{
-    const auto row = table<QRect, QRect, QSize, QRect>("item", "available", "wanted", "menu");
-    const QRect bare(0, 0, 1366, 768);
-    const QRect belowPanel(0, 26, 1366, 742);
-    const QRect abovePanel(0, 0, 1366, 740);
-    const QSize menu(340, 268);
-    const QSize longMenu(340, 5000);
-    row("below", {600, 1, 24, 24}, belowPanel, menu, {600, 26, 340, 268});
-    row("below, at the corner", {1340, 1, 24, 24}, belowPanel, menu, {1026, 26, 340, 268});
-    row("below, panel without strut", {600, 1, 24, 24}, bare, menu, {600, 25, 340, 268});
-    row("above", {600, 742, 24, 24}, abovePanel, menu, {600, 472, 340, 268});
-    row("beside, at the corner", {1342, 743, 24, 24}, {0, 0, 1340, 768}, menu,
-        {1000, 500, 340, 268});
-    row("above, too long", {600, 742, 24, 24}, bare, longMenu, {600, 0, 340, 742});
-    row("beside, left panel", {2, 400, 24, 24}, bare, menu, {26, 400, 340, 268});
-    row("below the pointer", {700, 10, 0, 0}, belowPanel, menu, {688, 26, 340, 268});
-    row("above the pointer", {700, 700, 0, 0}, bare, menu, {688, 420, 340, 268});
-    row("other screen", {1400, 5, 24, 24}, {1366, 0, 800, 600}, menu, {1400, 29, 340, 268});
-}
-
-void MenuPlacementTest::menuStaysBesideItem()
-{
-    QFETCH(QRect, item);
-    QFETCH(QRect, available);
-    QFETCH(QSize, wanted);
-    const QRect placed = placeMenu(item, available, wanted);
-    QTEST(placed, "menu");
-    QVERIFY(available.contains(placed));
-    QVERIFY(!placed.intersects(item));
-}
-
-void MenuPlacementTest::pointerHeadsForSubmenu()
-{
-    constexpr QPoint exit(170, 79);
-    for (const QRect submenu : {QRect(340, 0, 300, 400), QRect(-300, 0, 300, 400)}) {
-        const int towards = submenu.x() > 0 ? 50 : -50;
-        QVERIFY(headsFor(submenu, exit, exit + QPoint(towards, 80)));
-        QVERIFY(!headsFor(submenu, exit, exit + QPoint(0, 80)));
-        QVERIFY(!headsFor(submenu, exit, exit + QPoint(-towards, 30)));
+    void menuStaysBesideItem_data()
+    {
+        const auto row = table<QRect, QRect, QSize, QRect>("item", "available", "wanted", "menu");
+        const QRect bare(0, 0, 1366, 768);
+        const QRect belowPanel(0, 26, 1366, 742);
+        const QRect abovePanel(0, 0, 1366, 740);
+        const QSize menu(340, 268);
+        const QSize longMenu(340, 5000);
+        row("below", {600, 1, 24, 24}, belowPanel, menu, {600, 26, 340, 268});
+        row("below, at the corner", {1340, 1, 24, 24}, belowPanel, menu, {1026, 26, 340, 268});
+        row("below, panel without strut", {600, 1, 24, 24}, bare, menu, {600, 25, 340, 268});
+        row("above", {600, 742, 24, 24}, abovePanel, menu, {600, 472, 340, 268});
+        row("beside, at the corner", {1342, 743, 24, 24}, {0, 0, 1340, 768}, menu,
+            {1000, 500, 340, 268});
+        row("above, too long", {600, 742, 24, 24}, bare, longMenu, {600, 0, 340, 742});
+        row("beside, left panel", {2, 400, 24, 24}, bare, menu, {26, 400, 340, 268});
+        row("below the pointer", {700, 10, 0, 0}, belowPanel, menu, {688, 26, 340, 268});
+        row("above the pointer", {700, 700, 0, 0}, bare, menu, {688, 420, 340, 268});
+        row("other screen", {1400, 5, 24, 24}, {1366, 0, 800, 600}, menu, {1400, 29, 340, 268});
     }
-}
 
-void MenuPlacementTest::oneClickIsAnsweredOnce()
-{
-    using Verdict = ClickGuard::Verdict;
-    constexpr QPoint item(10, 10);
-    constexpr QPoint elsewhere(300, 300);
-    ClickGuard guard;
-    QCOMPARE(guard.onTrigger(false, item, 0ms), Verdict::open);
-    guard.opened(item, 0ms);
-    QCOMPARE(guard.onTrigger(true, item, 150ms), Verdict::ignore);
-    QVERIFY(guard.repeatsOpening(item, 150ms));
-    QVERIFY(!guard.repeatsOpening(elsewhere, 150ms));
-    QCOMPARE(guard.onTrigger(true, item, 5s), Verdict::close);
+    void menuStaysBesideItem()
+    {
+        QFETCH(QRect, item);
+        QFETCH(QRect, available);
+        QFETCH(QSize, wanted);
+        const QRect placed = placeMenu(item, available, wanted);
+        QTEST(placed, "menu");
+        QVERIFY(available.contains(placed));
+        QVERIFY(!placed.intersects(item));
+    }
 
-    guard.closedByPress(item, 10s);
-    QCOMPARE(guard.onTrigger(false, item, 10s + 10ms), Verdict::ignore);
-    QCOMPARE(guard.onTrigger(false, item, 12s), Verdict::open);
-    guard.closedByPress(elsewhere, 20s);
-    QCOMPARE(guard.onTrigger(false, item, 20s + 10ms), Verdict::open);
-}
+    void pointerHeadsForSubmenu()
+    {
+        constexpr QPoint exit(170, 79);
+        for (const QRect submenu : {QRect(340, 0, 300, 400), QRect(-300, 0, 300, 400)}) {
+            const int towards = submenu.x() > 0 ? 50 : -50;
+            QVERIFY(headsFor(submenu, exit, exit + QPoint(towards, 80)));
+            QVERIFY(!headsFor(submenu, exit, exit + QPoint(0, 80)));
+            QVERIFY(!headsFor(submenu, exit, exit + QPoint(-towards, 30)));
+        }
+    }
+
+    void oneClickIsAnsweredOnce()
+    {
+        using Verdict = ClickGuard::Verdict;
+        constexpr QPoint item(10, 10);
+        constexpr QPoint elsewhere(300, 300);
+        ClickGuard guard;
+        QCOMPARE(guard.onTrigger(false, item, 0ms), Verdict::open);
+        guard.opened(item, 0ms);
+        QCOMPARE(guard.onTrigger(true, item, 150ms), Verdict::ignore);
+        QVERIFY(guard.repeatsOpening(item, 150ms));
+        QVERIFY(!guard.repeatsOpening(elsewhere, 150ms));
+        QCOMPARE(guard.onTrigger(true, item, 5s), Verdict::close);
+
+        guard.closedByPress(item, 10s);
+        QCOMPARE(guard.onTrigger(false, item, 10s + 10ms), Verdict::ignore);
+        QCOMPARE(guard.onTrigger(false, item, 12s), Verdict::open);
+        guard.closedByPress(elsewhere, 20s);
+        QCOMPARE(guard.onTrigger(false, item, 20s + 10ms), Verdict::open);
+    }
+};
 
 TARNWICK_TEST(MenuPlacementTest)
 

@@ -6,7 +6,6 @@
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 
-using namespace tarnwick;
 using namespace tarnwick::test;
 
 class UpdatesAppcastTest : public QObject
@@ -14,142 +13,138 @@ class UpdatesAppcastTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void versions_data();
-    void versions();
-    void feeds_data();
-    void feeds();
-    void everyFieldIsRead();
-    void addresses();
-    void fileNames();
-};
-
-void UpdatesAppcastTest::versions_data()
-{
-    const auto row = table<QString, QString, bool>("older", "newer", "areEqual");
-    row("number", u"1.9"_qs, u"1.10"_qs, false);
-    row("shorter", u"1.9.9"_qs, u"2"_qs, false);
-    row("beta", u"1.0b2"_qs, u"1.0"_qs, false);
-    row("number of beta", u"1.0b2"_qs, u"1.0b10"_qs, false);
-    row("letters", u"1.0-beta3"_qs, u"1.0-rc1"_qs, false);
-    row("beta of an older", u"1.0b2"_qs, u"1.0.1"_qs, false);
-    row("longer", u"1.0"_qs, u"1.0.0.1"_qs, false);
-    row("huge", u"99999999999999999998"_qs, u"99999999999999999999"_qs, false);
-    row("empty", {}, u"0.1"_qs, false);
-    row("zeros", u"1"_qs, u"1.0.0"_qs, true);
-    row("leading zero", u"1.02"_qs, u"1.2"_qs, true);
-    row("separators", u"1.0B2"_qs, u"1-0_b2"_qs, true);
-}
-
-void UpdatesAppcastTest::versions()
-{
-    QFETCH(QString, older);
-    QFETCH(QString, newer);
-    QFETCH(bool, areEqual);
-    QCOMPARE(compareVersions(older, newer) < 0, !areEqual);
-    QCOMPARE(compareVersions(newer, older) > 0, !areEqual);
-}
-
-void UpdatesAppcastTest::feeds_data()
-{
-    const auto row = table<QByteArray, QByteArray>("feed", "newest");
-    const QByteArray start =
-        R"(<rss xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel>)";
-    const QByteArray end = "</channel></rss>";
-    const QByteArray ten = "<sparkle:version>10</sparkle:version>";
-    /// What stands in one item, beside another of version 9.
-    const auto item = [&](const QByteArray& content) {
-        return start + "<item>" + content +
-               "</item><item><sparkle:version>9</sparkle:version></item>" + end;
-    };
-
-    row("highest", item(ten), "10");
-    row("attribute", item("<enclosure sparkle:version='10'/>"), "10");
-    row("another channel", item(ten + "<sparkle:channel>beta</sparkle:channel>"), "9");
-    row("another system", item(ten + "<sparkle:os>macos</sparkle:os>"), "9");
-    row("enclosure of another", item(ten + "<enclosure sparkle:os='windows'/>"), "9");
-    row("second enclosure",
-        item("<enclosure sparkle:os='windows'/><enclosure sparkle:version='10' "
-             "sparkle:os='Linux'/>"),
-        "10");
-    row("deltas", item("<sparkle:deltas><enclosure sparkle:version='10'/></sparkle:deltas>"), "9");
-    row("foreign", item("<version>10</version><x:version xmlns:x='urn:x'>10</x:version>"), "9");
-    row("nothing newer", start + "<item><sparkle:version>8.0</sparkle:version></item>" + end,
-        "none");
-    row("no item", start + end, "no feed");
-    row("truncated", start + "<item>" + ten + "</item><item>", "no feed");
-    row("something after it", item(ten) + "<rss/>", "no feed");
-    row("very deep", start + "<item>" + QByteArray("<description>").repeated(300'000), "no feed");
-    row("endless tag", item(ten + "<x a='" + QByteArray(40'000, '>') + "'/>"), "no feed");
-    row("web page", "<!DOCTYPE html><html><body>Sign in</body></html>", "no feed");
-    row("harmless document type", "<!DOCTYPE rss>" + item(ten), "10");
-    row("entities", "<!DOCTYPE rss [<!ENTITY a 'a'><!ENTITY b '&a;&a;'>]>" + item(ten), "no feed");
-    row("parameter entity",
-        "<!DOCTYPE rss [<!ENTITY % a SYSTEM 'file:///etc/hostname'> %a;]>" + item(ten), "no feed");
-}
-
-void UpdatesAppcastTest::feeds()
-{
-    QFETCH(QByteArray, feed);
-    QByteArray found = "no feed";
-    if (const auto items = parseAppcast(feed, u"linux"_qs)) {
-        const auto newest = newestItem(*items, u"8"_qs);
-        found = newest ? newest->version.toLatin1() : "none";
+    void versions_data()
+    {
+        const auto row = table<QString, QString, bool>("older", "newer", "areEqual");
+        row("number", u"1.9"_qs, u"1.10"_qs, false);
+        row("shorter", u"1.9.9"_qs, u"2"_qs, false);
+        row("beta", u"1.0b2"_qs, u"1.0"_qs, false);
+        row("number of beta", u"1.0b2"_qs, u"1.0b10"_qs, false);
+        row("letters", u"1.0-beta3"_qs, u"1.0-rc1"_qs, false);
+        row("beta of an older", u"1.0b2"_qs, u"1.0.1"_qs, false);
+        row("longer", u"1.0"_qs, u"1.0.0.1"_qs, false);
+        row("huge", u"99999999999999999998"_qs, u"99999999999999999999"_qs, false);
+        row("empty", {}, u"0.1"_qs, false);
+        row("zeros", u"1"_qs, u"1.0.0"_qs, true);
+        row("leading zero", u"1.02"_qs, u"1.2"_qs, true);
+        row("separators", u"1.0B2"_qs, u"1-0_b2"_qs, true);
     }
-    QTEST(found, "newest");
-}
 
-void UpdatesAppcastTest::everyFieldIsRead()
-{
-    const auto items = parseAppcast(R"(<?xml version="1.0"?>
-        <rss xmlns:s="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel><item>
-          <s:releaseNotesLink> https://example.org/notes </s:releaseNotesLink>
-          <description s:format="plain-text">a &lt; b</description>
-          <enclosure url="https://example.org/a.deb" length="12" s:version="3"
-                     s:shortVersionString="1.2" s:edSignature="c2ln" type="x/y"/>
-        </item></channel></rss>)",
-                                    u"linux"_qs);
-    QVERIFY(items && items->size() == 1);
-    const AppcastItem& item = items->first();
-    QCOMPARE(item.name(), u"1.2"_qs);
-    QCOMPARE(item.notes, u"a < b"_qs);
-    QVERIFY(item.notesArePlainText);
-    QCOMPARE(item.notesLink, QUrl(u"https://example.org/notes"_qs));
-    QCOMPARE(item.url, QUrl(u"https://example.org/a.deb"_qs));
-    QCOMPARE(item.length, 12);
-    QCOMPARE(item.signature, "c2ln");
-}
+    void versions()
+    {
+        QFETCH(QString, older);
+        QFETCH(QString, newer);
+        QFETCH(bool, areEqual);
+        QCOMPARE(compareVersions(older, newer) < 0, !areEqual);
+        QCOMPARE(compareVersions(newer, older) > 0, !areEqual);
+    }
 
-void UpdatesAppcastTest::addresses()
-{
-    for (const auto* url :
-         {"https://example.org/a", "http://127.9.8.7:80/a", "http://[::1]/a", "http://LOCALHOST/a"})
-        QVERIFY2(isTrustedAddress(QUrl::fromEncoded(url)), url);
-    for (const auto* url :
-         {"", "http://example.org/a", "http://localhost.example.org/", "ftp://localhost/a",
-          "http://127.0.0.1.nip.io/", "http://localhost@example.org/", "http://0.0.0.0/",
-          "file:///etc/passwd", "https:///a", "//localhost/a"})
-        QVERIFY2(!isTrustedAddress(QUrl::fromEncoded(url)), url);
-}
+    void feeds_data()
+    {
+        const auto row = table<QByteArray, QByteArray>("feed", "newest");
+        const QByteArray start =
+            R"(<rss xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel>)";
+        const QByteArray end = "</channel></rss>";
+        const QByteArray ten = "<sparkle:version>10</sparkle:version>";
+        /// What stands in one item, beside another of version 9.
+        const auto item = [&](const QByteArray& content) {
+            return start + "<item>" + content +
+                   "</item><item><sparkle:version>9</sparkle:version></item>" + end;
+        };
 
-void UpdatesAppcastTest::fileNames()
-{
-    const auto nameOf = [](const QString& path) {
-        return safeFileName(QUrl(u"https://example.org/"_qs + path));
-    };
-    QCOMPARE(nameOf(u"a/b/Tarnwick%201.3.deb?x=/y#/z"_qs), u"Tarnwick 1.3.deb"_qs);
-    QCOMPARE(nameOf(u"a/..%2F..%2F.bashrc"_qs), u"bashrc"_qs);
-    QCOMPARE(nameOf(u"..%5C..%5Cautorun.inf"_qs), u"autorun.inf"_qs);
-    QCOMPARE(nameOf(u"%2e%2e"_qs), u"Tarnwick update"_qs);
-    QCOMPARE(nameOf(u"a/"_qs), u"Tarnwick update"_qs);
-    QCOMPARE(nameOf(u"a%0A%00b%7F%E2%80%AEc.deb"_qs), u"abc.deb"_qs);
+        row("highest", item(ten), "10");
+        row("attribute", item("<enclosure sparkle:version='10'/>"), "10");
+        row("another channel", item(ten + "<sparkle:channel>beta</sparkle:channel>"), "9");
+        row("another system", item(ten + "<sparkle:os>macos</sparkle:os>"), "9");
+        row("enclosure of another", item(ten + "<enclosure sparkle:os='windows'/>"), "9");
+        row("second enclosure",
+            item("<enclosure sparkle:os='windows'/><enclosure sparkle:version='10' "
+                 "sparkle:os='Linux'/>"),
+            "10");
+        row("deltas", item("<sparkle:deltas><enclosure sparkle:version='10'/></sparkle:deltas>"),
+            "9");
+        row("foreign", item("<version>10</version><x:version xmlns:x='urn:x'>10</x:version>"), "9");
+        row("nothing newer", start + "<item><sparkle:version>8.0</sparkle:version></item>" + end,
+            "none");
+        row("no item", start + end, "no feed");
+        row("truncated", start + "<item>" + ten + "</item><item>", "no feed");
+        row("something after it", item(ten) + "<rss/>", "no feed");
+        row("very deep", start + "<item>" + QByteArray("<description>").repeated(300'000),
+            "no feed");
+        row("endless tag", item(ten + "<x a='" + QByteArray(40'000, '>') + "'/>"), "no feed");
+        row("web page", "<!DOCTYPE html><html><body>Sign in</body></html>", "no feed");
+        row("harmless document type", "<!DOCTYPE rss>" + item(ten), "10");
+        row("entities", "<!DOCTYPE rss [<!ENTITY a 'a'><!ENTITY b '&a;&a;'>]>" + item(ten),
+            "no feed");
+        row("parameter entity",
+            "<!DOCTYPE rss [<!ENTITY % a SYSTEM 'file:///etc/hostname'> %a;]>" + item(ten),
+            "no feed");
+    }
 
-    const QTemporaryDir folder;
-    const QString name = nameOf(QString(300, u'\u00e4') + u".tar.gz"_qs);
-    QVERIFY(name.endsWith(u"\u00e4.tar.gz"_qs));
-    writeFile(folder.filePath(name), "in use");
-    QVERIFY(QFile::link(u"/nonexistent"_qs, unusedPath(folder.path(), name)));
-    QVERIFY(unusedPath(folder.path(), name).endsWith(u"\u00e4 (3).tar.gz"_qs));
-}
+    void feeds()
+    {
+        QFETCH(QByteArray, feed);
+        QByteArray found = "no feed";
+        if (const auto items = parseAppcast(feed, u"linux"_qs)) {
+            const auto newest = newestItem(*items, u"8"_qs);
+            found = newest ? newest->version.toLatin1() : "none";
+        }
+        QTEST(found, "newest");
+    }
+
+    void everyFieldIsRead()
+    {
+        const auto items = parseAppcast(R"(<?xml version="1.0"?>
+            <rss xmlns:s="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel><item>
+              <s:releaseNotesLink> https://example.org/notes </s:releaseNotesLink>
+              <description s:format="plain-text">a &lt; b</description>
+              <enclosure url="https://example.org/a.deb" length="12" s:version="3"
+                         s:shortVersionString="1.2" s:edSignature="c2ln" type="x/y"/>
+            </item></channel></rss>)",
+                                        u"linux"_qs);
+        QVERIFY(items && items->size() == 1);
+        const AppcastItem& item = items->first();
+        QCOMPARE(item.name(), u"1.2"_qs);
+        QCOMPARE(item.notes, u"a < b"_qs);
+        QVERIFY(item.notesArePlainText);
+        QCOMPARE(item.notesLink, QUrl(u"https://example.org/notes"_qs));
+        QCOMPARE(item.url, QUrl(u"https://example.org/a.deb"_qs));
+        QCOMPARE(item.length, 12);
+        QCOMPARE(item.signature, "c2ln");
+    }
+
+    void addresses()
+    {
+        for (const auto* url : {"https://example.org/a", "http://127.9.8.7:80/a", "http://[::1]/a",
+                                "http://LOCALHOST/a"})
+            QVERIFY2(isTrustedAddress(QUrl::fromEncoded(url)), url);
+        for (const auto* url :
+             {"", "http://example.org/a", "http://localhost.example.org/", "ftp://localhost/a",
+              "http://127.0.0.1.nip.io/", "http://localhost@example.org/", "http://0.0.0.0/",
+              "file:///etc/passwd", "https:///a", "//localhost/a"})
+            QVERIFY2(!isTrustedAddress(QUrl::fromEncoded(url)), url);
+    }
+
+    void fileNames()
+    {
+        const auto nameOf = [](const QString& path) {
+            return safeFileName(QUrl(u"https://example.org/"_qs + path));
+        };
+        QCOMPARE(nameOf(u"a/b/Tarnwick%201.3.deb?x=/y#/z"_qs), u"Tarnwick 1.3.deb"_qs);
+        QCOMPARE(nameOf(u"a/..%2F..%2F.bashrc"_qs), u"bashrc"_qs);
+        QCOMPARE(nameOf(u"..%5C..%5Cautorun.inf"_qs), u"autorun.inf"_qs);
+        QCOMPARE(nameOf(u"%2e%2e"_qs), u"Tarnwick update"_qs);
+        QCOMPARE(nameOf(u"a/"_qs), u"Tarnwick update"_qs);
+        QCOMPARE(nameOf(u"a%0A%00b%7F%E2%80%AEc.deb"_qs), u"abc.deb"_qs);
+
+        const QTemporaryDir folder;
+        const QString name = nameOf(QString(300, u'\u00e4') + u".tar.gz"_qs);
+        QVERIFY(name.endsWith(u"\u00e4.tar.gz"_qs));
+        writeFile(folder.filePath(name), "in use");
+        QVERIFY(QFile::link(u"/nonexistent"_qs, unusedPath(folder.path(), name)));
+        QVERIFY(unusedPath(folder.path(), name).endsWith(u"\u00e4 (3).tar.gz"_qs));
+    }
+};
 
 TARNWICK_TEST(UpdatesAppcastTest)
 

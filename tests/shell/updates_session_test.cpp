@@ -2,12 +2,11 @@
 #include "shell/updates/update_session.h"
 #include "support/loopback_server.h"
 #include "support/signed_update.h"
-#include "support/temporary_repository.h"
 #include "support/test_registry.h"
 
 #include <QDesktopServices>
+#include <QTemporaryDir>
 
-using namespace tarnwick;
 using namespace tarnwick::test;
 using State = UpdateSession::State;
 
@@ -19,135 +18,123 @@ public Q_SLOTS:
     void open(const QUrl& url) { m_opened += url.toLocalFile(); }
 
 private Q_SLOTS:
-    void init();
-    void aGoodUpdateIsSavedAndOpened();
-    void failuresAreToldAndLeaveNothing_data();
-    void failuresAreToldAndLeaveNothing();
-    void aFolderThatTakesNoFilesIsTold();
+    void init()
+    {
+        m_folder.emplace();
+        m_settings = {m_server.url("/feed"), m_update.publicKey(), u"9"_qs,
+                      m_folder->filePath(u"downloads"_qs)};
+    }
+
+    void aGoodUpdateIsSavedAndOpened()
+    {
+        m_server.answer("/feed", LoopbackServer::bytes(m_update.feed("pkg/Tarnwick%201.3.deb")));
+        m_server.answer("/pkg/Tarnwick%201.3.deb", LoopbackServer::redirect("/elsewhere"));
+        m_server.answer("/elsewhere", LoopbackServer::bytes(m_update.content()));
+        QDesktopServices::setUrlHandler(u"file"_qs, this, "open");
+
+        UpdateSession session(m_settings);
+        session.start();
+        QTRY_COMPARE(session.state(), State::Offering);
+        QVERIFY(saved().isEmpty());
+        session.download();
+        QTRY_COMPARE(session.state(), State::Saved);
+        QDesktopServices::unsetUrlHandler(u"file"_qs);
+
+        QCOMPARE(saved(), QStringList(u"Tarnwick 1.3.deb"_qs));
+        QCOMPARE(m_opened, QStringList(session.savedPath()));
+        QFile file(session.savedPath());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), m_update.content());
+        QVERIFY(!file.permissions().testAnyFlag(QFile::ExeOwner));
+
+        m_settings.downloadFolder = session.savedPath();
+        UpdateSession other(m_settings);
+        other.start();
+        QTRY_COMPARE(other.state(), State::Offering);
+        other.download();
+        QCOMPARE(other.state(), State::Failed);
+        QVERIFY2(other.error().contains(u"cannot be saved in"_qs), qPrintable(other.error()));
+    }
+
+    /// In each row the update is good but for one thing: another feed or key, or a part of the
+    /// feed.
+    void failuresAreToldAndLeaveNothing_data()
+    {
+        const auto row = table<QByteArray, QByteArray, QByteArray, QByteArray, QString>(
+            "feed", "publicKey", "written", "instead", "error");
+        const QByteArray key = m_update.publicKey();
+        row("no feed", "/missing", key, {}, {}, u"refused the request (error 404)"_qs);
+        row("web page", "/html", key, {}, {}, u"cannot be read"_qs);
+        row("long feed", "/long", key, {}, {}, u"more than it should"_qs);
+        row("half a feed", "/broken", key, {}, {}, u"broke the connection off"_qs);
+        row("led astray", "/away", key, {}, {}, u"not secure: http://192.0.2.1"_qs);
+        row("led in circles", "/loop", key, {}, {}, u"without end"_qs);
+        row("no key", "/feed", {}, {}, {}, u"without the key"_qs);
+        row("short key", "/feed", key.mid(4), {}, {}, u"without the key"_qs);
+        const QByteArray length = "length=\"" + QByteArray::number(m_update.content().size());
+        row("unsigned", "/feed", key, m_update.signature(), {}, u"not signed"_qs);
+        row("no length", "/feed", key, length, "x=\"", u"size"_qs);
+        row("negative length", "/feed", key, length, "length=\"-1", u"size"_qs);
+        row("huge", "/feed", key, length, "length=\"2147483649", u"size"_qs);
+        row("elsewhere", "/feed", key, "url=\"", "url=\"http://192.0.2.1/",
+            u"no secure address"_qs);
+        row("nowhere", "/feed", key, "url=", "x=", u"no secure address"_qs);
+        row("tampered", "/feed", key, "url=\"pkg", "url=\"tampered", u"damaged"_qs);
+        row("shorter", "/feed", key, "url=\"pkg", "url=\"shorter", u"damaged"_qs);
+        row("longer", "/feed", key, "url=\"pkg", "url=\"longer", u"more than it should"_qs);
+        row("half", "/feed", key, "url=\"pkg", "url=\"broken", u"broke the connection off"_qs);
+    }
+
+    void failuresAreToldAndLeaveNothing()
+    {
+        QFETCH(QByteArray, feed);
+        QFETCH(QByteArray, publicKey);
+        QFETCH(QByteArray, written);
+        QFETCH(QByteArray, instead);
+        QFETCH(QString, error);
+
+        const QByteArray& good = m_update.content();
+        const QByteArray name = "/Tarnwick%201.3.deb";
+        m_server.answer("/html", LoopbackServer::bytes("<html><p>Sign in</p></html>", "200 OK",
+                                                       "Content-Type: text/html"));
+        m_server.answer("/long", LoopbackServer::bytes(QByteArray(1024 * 1024 + 1, ' ')));
+        m_server.answer("/broken", LoopbackServer::brokenOff("<rss>"));
+        m_server.answer("/away", LoopbackServer::redirect("http://192.0.2.1/feed"));
+        m_server.answer("/loop", LoopbackServer::redirect("/loop"));
+        m_server.answer("/pkg" + name, LoopbackServer::bytes(good));
+        m_server.answer("/tampered" + name, LoopbackServer::bytes('y' + good.mid(1)));
+        m_server.answer("/shorter" + name, LoopbackServer::bytes(good.chopped(1)));
+        m_server.answer("/longer" + name, LoopbackServer::bytes(good + '!'));
+        m_server.answer("/broken" + name, LoopbackServer::brokenOff(good.left(100)));
+        QByteArray announced = m_update.feed("pkg" + name);
+        if (!written.isEmpty())
+            announced.replace(written, instead);
+        m_server.answer("/feed", LoopbackServer::bytes(announced));
+
+        m_settings.feed = m_server.url(feed);
+        m_settings.publicKey = publicKey;
+        UpdateSession session(m_settings);
+        session.start();
+        QTRY_VERIFY(session.state() != State::Checking);
+        session.download();
+        QTRY_COMPARE(session.state(), State::Failed);
+        QVERIFY2(session.error().contains(error), qPrintable(session.error()));
+        QCOMPARE(saved(), QStringList());
+    }
 
 private:
-    [[nodiscard]] UpdateSettings settings() const
-    {
-        return {m_server->url("/feed"), m_update.publicKey(), u"9"_qs,
-                m_folder->filePath(u"downloads"_qs)};
-    }
     [[nodiscard]] QStringList saved() const
     {
-        return QDir(m_folder->filePath(u"downloads"_qs))
+        return QDir(m_settings.downloadFolder)
             .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
 
     const SignedUpdate m_update{QByteArray(300'000, 'x') + "end"};
-    std::unique_ptr<LoopbackServer> m_server;
-    std::unique_ptr<QTemporaryDir> m_folder;
+    LoopbackServer m_server;
+    std::optional<QTemporaryDir> m_folder;
+    UpdateSettings m_settings;
     QStringList m_opened;
 };
-
-void UpdatesSessionTest::init()
-{
-    m_server = std::make_unique<LoopbackServer>();
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_opened.clear();
-    m_server->answer("/feed", LoopbackServer::bytes(m_update.feed("pkg/Tarnwick%201.3.deb")));
-}
-
-void UpdatesSessionTest::aGoodUpdateIsSavedAndOpened()
-{
-    m_server->answer("/pkg/Tarnwick%201.3.deb", LoopbackServer::redirect("/elsewhere"));
-    m_server->answer("/elsewhere", LoopbackServer::bytes(m_update.content()));
-    QDesktopServices::setUrlHandler(u"file"_qs, this, "open");
-
-    UpdateSession session(settings());
-    session.start();
-    QTRY_COMPARE(session.state(), State::Offering);
-    QVERIFY(saved().isEmpty());
-    session.download();
-    QTRY_COMPARE(session.state(), State::Saved);
-    QDesktopServices::unsetUrlHandler(u"file"_qs);
-
-    QCOMPARE(saved(), QStringList(u"Tarnwick 1.3.deb"_qs));
-    QCOMPARE(m_opened, QStringList(session.savedPath()));
-    QFile file(session.savedPath());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), m_update.content());
-    QVERIFY(!file.permissions().testAnyFlag(QFile::ExeOwner));
-}
-
-/// In each row the update is good but for one thing: another feed or key, or a part of the feed.
-void UpdatesSessionTest::failuresAreToldAndLeaveNothing_data()
-{
-    const auto row = table<QByteArray, QByteArray, QByteArray, QByteArray, QString>(
-        "feed", "publicKey", "written", "instead", "error");
-    const QByteArray key = m_update.publicKey();
-    row("no feed", "/missing", key, {}, {}, u"refused the request (error 404)"_qs);
-    row("web page", "/html", key, {}, {}, u"cannot be read"_qs);
-    row("long feed", "/long", key, {}, {}, u"more than it should"_qs);
-    row("half a feed", "/broken", key, {}, {}, u"broke the connection off"_qs);
-    row("led astray", "/away", key, {}, {}, u"not secure: http://192.0.2.1"_qs);
-    row("led in circles", "/loop", key, {}, {}, u"without end"_qs);
-    row("no key", "/feed", {}, {}, {}, u"without the key"_qs);
-    row("short key", "/feed", key.mid(4), {}, {}, u"without the key"_qs);
-    const QByteArray length = "length=\"" + QByteArray::number(m_update.content().size());
-    row("unsigned", "/feed", key, m_update.signature(), {}, u"not signed"_qs);
-    row("no length", "/feed", key, length, "x=\"", u"size"_qs);
-    row("negative length", "/feed", key, length, "length=\"-1", u"size"_qs);
-    row("huge", "/feed", key, length, "length=\"2147483649", u"size"_qs);
-    row("elsewhere", "/feed", key, "url=\"", "url=\"http://192.0.2.1/", u"no secure address"_qs);
-    row("nowhere", "/feed", key, "url=", "x=", u"no secure address"_qs);
-    row("tampered", "/feed", key, "url=\"pkg", "url=\"tampered", u"damaged"_qs);
-    row("shorter", "/feed", key, "url=\"pkg", "url=\"shorter", u"damaged"_qs);
-    row("longer", "/feed", key, "url=\"pkg", "url=\"longer", u"more than it should"_qs);
-    row("half", "/feed", key, "url=\"pkg", "url=\"broken", u"broke the connection off"_qs);
-}
-
-void UpdatesSessionTest::failuresAreToldAndLeaveNothing()
-{
-    QFETCH(QByteArray, feed);
-    QFETCH(QByteArray, publicKey);
-    QFETCH(QByteArray, written);
-    QFETCH(QByteArray, instead);
-    QFETCH(QString, error);
-
-    const QByteArray& good = m_update.content();
-    const QByteArray name = "/Tarnwick%201.3.deb";
-    m_server->answer("/html", LoopbackServer::bytes("<html><p>Sign in</p></html>", "200 OK",
-                                                    "Content-Type: text/html"));
-    m_server->answer("/long", LoopbackServer::bytes(QByteArray(1024 * 1024 + 1, ' ')));
-    m_server->answer("/broken", LoopbackServer::brokenOff("<rss>"));
-    m_server->answer("/away", LoopbackServer::redirect("http://192.0.2.1/feed"));
-    m_server->answer("/loop", LoopbackServer::redirect("/loop"));
-    m_server->answer("/pkg" + name, LoopbackServer::bytes(good));
-    m_server->answer("/tampered" + name, LoopbackServer::bytes('y' + good.mid(1)));
-    m_server->answer("/shorter" + name, LoopbackServer::bytes(good.chopped(1)));
-    m_server->answer("/longer" + name, LoopbackServer::bytes(good + '!'));
-    m_server->answer("/broken" + name, LoopbackServer::brokenOff(good.left(100)));
-    QByteArray announced = m_update.feed("pkg" + name);
-    if (!written.isEmpty())
-        announced.replace(written, instead);
-    m_server->answer("/feed", LoopbackServer::bytes(announced));
-
-    UpdateSettings settings = this->settings();
-    settings.feed = m_server->url(feed);
-    settings.publicKey = publicKey;
-    UpdateSession session(settings);
-    session.start();
-    QTRY_VERIFY(session.state() != State::Checking);
-    session.download();
-    QTRY_COMPARE(session.state(), State::Failed);
-    QVERIFY2(session.error().contains(error), qPrintable(session.error()));
-    QCOMPARE(saved(), QStringList());
-}
-
-void UpdatesSessionTest::aFolderThatTakesNoFilesIsTold()
-{
-    writeFile(m_folder->filePath(u"downloads"_qs), "a file");
-    UpdateSession session(settings());
-    session.start();
-    QTRY_COMPARE(session.state(), State::Offering);
-    session.download();
-    QCOMPARE(session.state(), State::Failed);
-    QVERIFY2(session.error().contains(u"cannot be saved in"_qs), qPrintable(session.error()));
-}
 
 TARNWICK_TEST(UpdatesSessionTest)
 

@@ -14,7 +14,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 
-using namespace tarnwick;
 using namespace tarnwick::test;
 
 namespace {
@@ -57,10 +56,80 @@ private Q_SLOTS:
     {
         m_settings = {m_server.url("/feed"), m_update.publicKey(), u"10"_qs, m_folder.path()};
     }
-    void oneCheckAtATime();
-    void canBeCancelledAnyTime();
-    void checksNothingWithoutASecureFeed();
-    void notesLoadNoFiles();
+
+    void oneCheckAtATime()
+    {
+        m_server.answer("/feed", LoopbackServer::bytes(m_update.feed("pkg")));
+        std::optional<StandardUpdaterController> controller(std::in_place, m_settings, false);
+        Updater& updater = controller->updater();
+        const QSignalSpy changes(&updater, &Updater::canCheckForUpdatesChanged);
+        updater.checkForUpdates();
+        QCOMPARE(windows().size(), 0);
+
+        updater.start();
+        updater.checkForUpdates();
+        updater.checkForUpdates();
+        QCOMPARE(windows().size(), 1);
+        QVERIFY(!updater.canCheckForUpdates());
+        QTRY_VERIFY(shown(*windows().first()).contains(u"Tarnwick 10 is the newest version."_qs));
+        QTest::keyClick(windows().first(), Qt::Key_Escape);
+        QTRY_VERIFY(updater.canCheckForUpdates());
+        QCOMPARE(changes, QList<QVariantList>({{true}, {false}, {true}}));
+
+        updater.checkForUpdates();
+        controller.reset();
+        QTRY_VERIFY(shown(*windows().first()).contains(u"You are up to date"_qs));
+        press(*windows().first(), u"Close"_qs);
+        QTRY_COMPARE(windows().size(), 0);
+    }
+
+    void canBeCancelledAnyTime()
+    {
+        m_settings.buildNumber = u"9"_qs;
+        m_server.answer("/pkg",
+                        [](QTcpSocket& client) { client.write("HTTP/1.1 200 OK\r\n\r\nco"); });
+        for (const bool isFeedSilent : {true, false}) {
+            m_server.answer("/feed", isFeedSilent ? LoopbackServer::silence()
+                                                  : LoopbackServer::bytes(m_update.feed("pkg")));
+            StandardUpdaterController controller(m_settings, true);
+            controller.updater().checkForUpdates();
+            const UpdateWindow& window = *windows().first();
+            if (!isFeedSilent) {
+                QTRY_VERIFY(shown(window).contains(u"Tarnwick 1.3 is available"_qs));
+                press(window, u"Download"_qs);
+                QTRY_VERIFY(shown(window).contains(u"2 bytes of 7 bytes"_qs));
+            }
+            press(window, u"Cancel"_qs);
+            QTRY_VERIFY(controller.updater().canCheckForUpdates());
+            QTRY_VERIFY(windows().isEmpty());
+        }
+        QVERIFY(
+            QDir(m_folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    }
+
+    void checksNothingWithoutASecureFeed()
+    {
+        for (const auto* feed : {"", "http://example.org/feed"}) {
+            m_settings.feed = QUrl::fromEncoded(feed);
+            QVERIFY(!StandardUpdaterController(m_settings, true).updater().canCheckForUpdates());
+        }
+    }
+
+    void notesLoadNoFiles()
+    {
+        QImage picture(50, 50, QImage::Format_RGB32);
+        picture.fill(Qt::magenta);
+        const QString file = m_folder.filePath(u"picture.png"_qs);
+        QVERIFY(picture.save(file));
+
+        AppcastItem item;
+        item.notes = u"<p>Notes<img src='%1'><img src='file://%1'></p><table><tr>"
+                     "<td style='background-image: url(%1)'>x</td></tr></table>"_qs.arg(file);
+        NotesView view;
+        view.showNotes(item);
+        view.resize(400, 300);
+        QVERIFY(!showsColor(view.grab().toImage(), Qt::magenta));
+    }
 
 private:
     const SignedUpdate m_update{"content"};
@@ -68,78 +137,6 @@ private:
     const QTemporaryDir m_folder;
     UpdateSettings m_settings;
 };
-
-void UpdatesWindowTest::oneCheckAtATime()
-{
-    m_server.answer("/feed", LoopbackServer::bytes(m_update.feed("pkg")));
-    std::optional<StandardUpdaterController> controller(std::in_place, m_settings, false);
-    Updater& updater = controller->updater();
-    const QSignalSpy changes(&updater, &Updater::canCheckForUpdatesChanged);
-    updater.checkForUpdates();
-    QCOMPARE(windows().size(), 0);
-
-    updater.start();
-    updater.checkForUpdates();
-    updater.checkForUpdates();
-    QCOMPARE(windows().size(), 1);
-    QVERIFY(!updater.canCheckForUpdates());
-    QTRY_VERIFY(shown(*windows().first()).contains(u"Tarnwick 10 is the newest version."_qs));
-    QTest::keyClick(windows().first(), Qt::Key_Escape);
-    QTRY_VERIFY(updater.canCheckForUpdates());
-    QCOMPARE(changes, QList<QVariantList>({{true}, {false}, {true}}));
-
-    updater.checkForUpdates();
-    controller.reset();
-    QTRY_VERIFY(shown(*windows().first()).contains(u"You are up to date"_qs));
-    press(*windows().first(), u"Close"_qs);
-    QTRY_COMPARE(windows().size(), 0);
-}
-
-void UpdatesWindowTest::canBeCancelledAnyTime()
-{
-    m_settings.buildNumber = u"9"_qs;
-    m_server.answer("/pkg", [](QTcpSocket& client) { client.write("HTTP/1.1 200 OK\r\n\r\nco"); });
-    for (const bool isFeedSilent : {true, false}) {
-        m_server.answer("/feed", isFeedSilent ? LoopbackServer::silence()
-                                              : LoopbackServer::bytes(m_update.feed("pkg")));
-        StandardUpdaterController controller(m_settings, true);
-        controller.updater().checkForUpdates();
-        const UpdateWindow& window = *windows().first();
-        if (!isFeedSilent) {
-            QTRY_VERIFY(shown(window).contains(u"Tarnwick 1.3 is available"_qs));
-            press(window, u"Download"_qs);
-            QTRY_VERIFY(shown(window).contains(u"2 bytes of 7 bytes"_qs));
-        }
-        press(window, u"Cancel"_qs);
-        QTRY_VERIFY(controller.updater().canCheckForUpdates());
-        QTRY_VERIFY(windows().isEmpty());
-    }
-    QVERIFY(QDir(m_folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
-}
-
-void UpdatesWindowTest::checksNothingWithoutASecureFeed()
-{
-    for (const auto* feed : {"", "http://example.org/feed"}) {
-        m_settings.feed = QUrl::fromEncoded(feed);
-        QVERIFY(!StandardUpdaterController(m_settings, true).updater().canCheckForUpdates());
-    }
-}
-
-void UpdatesWindowTest::notesLoadNoFiles()
-{
-    QImage picture(50, 50, QImage::Format_RGB32);
-    picture.fill(Qt::magenta);
-    const QString file = m_folder.filePath(u"picture.png"_qs);
-    QVERIFY(picture.save(file));
-
-    AppcastItem item;
-    item.notes = u"<p>Notes<img src='%1'><img src='file://%1'></p><table><tr>"
-                 "<td style='background-image: url(%1)'>x</td></tr></table>"_qs.arg(file);
-    NotesView view;
-    view.showNotes(item);
-    view.resize(400, 300);
-    QVERIFY(!showsColor(view.grab().toImage(), Qt::magenta));
-}
 
 TARNWICK_TEST(UpdatesWindowTest)
 

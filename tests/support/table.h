@@ -5,6 +5,8 @@
 
 namespace tarnwick::test {
 
+using namespace tarnwick; // for tests, which use this namespace
+
 /// Declares the columns of a _data function. What it returns adds a row: a name, then the values.
 template <typename... Values, typename... Columns>
 [[nodiscard]] auto table(Columns... columns)

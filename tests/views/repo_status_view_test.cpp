@@ -11,7 +11,6 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 
-using namespace tarnwick;
 using namespace tarnwick::test;
 
 namespace {
@@ -30,15 +29,6 @@ QStringList shownTexts(const QWidget& view)
     return texts.values();
 }
 
-TextLine* lineSaying(const QWidget& view, const QString& text)
-{
-    for (auto* line : view.findChildren<TextLine*>()) {
-        if (line->text() == text)
-            return line;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 class RepoStatusViewTest : public QObject
@@ -47,10 +37,79 @@ class RepoStatusViewTest : public QObject
 
 private Q_SLOTS:
     void init() { m_bench.emplace(); }
-    void followsARealRepository();
-    void optionsApplyAtOnce();
-    void longTextsStayInside();
-    void logoReplacesTheFolder();
+
+    void followsARealRepository()
+    {
+        const TemporaryRepository repository;
+        const auto row = shownRow(repository.dir());
+        const QSignalSpy texts(row.get(), &RepoStatusView::textChanged);
+        const auto* const spinner = row->findChild<Spinner*>();
+        QCOMPARE(shownTexts(*row), (QStringList{u"repo"_qs, u"?"_qs, u"Repo is clean"_qs}));
+        QList<bool> turning;
+        connect(m_record.get(), &RepoViewModel::isLoadingChanged, row.get(),
+                [&] { turning += spinner->isVisible(); });
+        QTRY_COMPARE(turning, (QList<bool>{true, false}));
+        QTRY_COMPARE(row->text(), u"repo, branch main, Repo is clean"_qs);
+        QCOMPARE(row->sizeHint().width(), 340);
+
+        repository.run({u"git checkout -q -b feature/x; echo x >> a; echo x >> b; git add b"_qs});
+        refreshAll({m_record});
+        QTRY_COMPARE(shownTexts(*row),
+                     (QStringList{u"repo"_qs, u"feature/x"_qs, u"1 change 1 staged"_qs}));
+        QCOMPARE(row->text(), u"repo, branch feature/x, 1 change, 1 staged"_qs);
+        QVERIFY(!texts.isEmpty());
+        for (const QColor& color : {QColor(0xff, 0xb3, 0), colors::teal(Appearance::Light),
+                                    colors::yellow(Appearance::Light)})
+            QVERIFY(showsColor(row->grab().toImage(), color));
+        QCOMPARE(row->sizeHint().width(), 340);
+    }
+
+    void optionsApplyAtOnce()
+    {
+        const TemporaryRepository repository;
+        const auto row = shownRow(repository.dir());
+        QTRY_VERIFY(m_record->gitStatus());
+        const int cleanHeight = row->sizeHint().height();
+        m_bench->store.setBool(false, u"showCleanRepoStatus"_qs);
+        QVERIFY(!shownTexts(*row).contains(u"Repo is clean"_qs));
+        QTRY_VERIFY(row->sizeHint().height() < cleanHeight);
+
+        repository.run({u"touch n"_qs});
+        refreshAll({m_record});
+        QTRY_VERIFY(shownTexts(*row).contains(u"1 untracked"_qs));
+        m_bench->store.setBool(true, u"onyIcons"_qs);
+        QVERIFY(shownTexts(*row).contains(u"1"_qs));
+    }
+
+    void longTextsStayInside()
+    {
+        const TemporaryRepository repository(QString(90, u'n'));
+        repository.run({u"git checkout -q -b feature/"_qs + QString(90, u'b')});
+        const auto row = shownRow(repository.dir());
+        QTRY_VERIFY(m_record->gitStatus() && m_record->branchString());
+        row->resize(row->sizeHint());
+        for (const auto* line : row->findChildren<TextLine*>()) {
+            if (!line->isVisible())
+                continue;
+            const QRect area(line->mapTo(row.get(), QPoint()), line->size());
+            QVERIFY(QRect(20, 10, 300, row->height() - 20).contains(area));
+            QVERIFY(line->heightForWidth(line->width()) <= line->height());
+        }
+    }
+
+    void logoReplacesTheFolder()
+    {
+        const TemporaryRepository repository;
+        QImage logo(40, 10, QImage::Format_RGB32);
+        logo.fill(QColor(12, 34, 56));
+        QVERIFY(logo.save(repository.dir() + u"/TarnwickLogo.png"_qs));
+        const auto row = shownRow(repository.dir());
+        // Stretched to a square at the leading inset.
+        const QRect shown = areaOf(QColor(12, 34, 56), row->grab().toImage());
+        QCOMPARE(shown, QRect(20, shown.y(), 16, 16));
+        repository.write(u"TarnwickLogo.png"_qs, "no picture");
+        QVERIFY(!m_bench->record(repository.dir())->logo());
+    }
 
 private:
     [[nodiscard]] std::unique_ptr<RepoStatusView> shownRow(const QString& dir)
@@ -65,84 +124,6 @@ private:
     std::optional<Workbench> m_bench;
     std::shared_ptr<RepoViewModel> m_record;
 };
-
-void RepoStatusViewTest::followsARealRepository()
-{
-    const TemporaryRepository repository;
-    const auto row = shownRow(repository.dir());
-    const QSignalSpy texts(row.get(), &RepoStatusView::textChanged);
-    const auto* const spinner = row->findChild<Spinner*>();
-    QCOMPARE(shownTexts(*row), (QStringList{u"repo"_qs, u"?"_qs, u"Repo is clean"_qs}));
-    QList<bool> turning;
-    connect(m_record.get(), &RepoViewModel::isLoadingChanged, row.get(),
-            [&] { turning += spinner->isVisible(); });
-    QTRY_COMPARE(turning, (QList<bool>{true, false}));
-    QTRY_COMPARE(row->text(), u"repo, branch main, Repo is clean"_qs);
-    const int width = row->sizeHint().width();
-
-    repository.run({u"git checkout -q -b feature/x; echo x >> a; echo x >> b; git add b"_qs});
-    refreshAll({m_record});
-    QTRY_COMPARE(shownTexts(*row),
-                 (QStringList{u"repo"_qs, u"feature/x"_qs, u"1 change 1 staged"_qs}));
-    QCOMPARE(row->text(), u"repo, branch feature/x, 1 change, 1 staged"_qs);
-    QVERIFY(!texts.isEmpty());
-    QVERIFY(showsColor(row->grab().toImage(), colorFromHex(u"FFB300"_qs)));
-    QVERIFY(showsColor(row->grab().toImage(), colors::teal(Appearance::Light)));
-    QVERIFY(showsColor(row->grab().toImage(), colors::yellow(Appearance::Light)));
-    QCOMPARE(width, 340);
-    QCOMPARE(row->sizeHint().width(), 340);
-}
-
-void RepoStatusViewTest::optionsApplyAtOnce()
-{
-    const TemporaryRepository repository;
-    const auto row = shownRow(repository.dir());
-    QTRY_VERIFY(m_record->gitStatus());
-    const int cleanHeight = row->sizeHint().height();
-    m_bench->store.setBool(false, u"showCleanRepoStatus"_qs);
-    QVERIFY(!shownTexts(*row).contains(u"Repo is clean"_qs));
-    QTRY_VERIFY(row->sizeHint().height() < cleanHeight);
-
-    repository.run({u"touch n"_qs});
-    refreshAll({m_record});
-    QTRY_VERIFY(shownTexts(*row).contains(u"1 untracked"_qs));
-    m_bench->store.setBool(true, u"onyIcons"_qs);
-    QVERIFY(shownTexts(*row).contains(u"1"_qs));
-}
-
-void RepoStatusViewTest::longTextsStayInside()
-{
-    const TemporaryRepository repository(QString(90, u'n'));
-    repository.run({u"git checkout -q -b feature/"_qs + QString(90, u'b')});
-    const auto row = shownRow(repository.dir());
-    QTRY_VERIFY(m_record->gitStatus() && m_record->branchString());
-    row->resize(row->sizeHint());
-    for (const auto* line : row->findChildren<TextLine*>()) {
-        if (!line->isVisible())
-            continue;
-        const QRect area(line->mapTo(row.get(), QPoint()), line->size());
-        QVERIFY(QRect(20, 10, 300, row->height() - 20).contains(area));
-        QVERIFY(line->heightForWidth(line->width()) <= line->height());
-    }
-}
-
-void RepoStatusViewTest::logoReplacesTheFolder()
-{
-    const TemporaryRepository repository;
-    QImage logo(40, 10, QImage::Format_RGB32);
-    logo.fill(QColor(12, 34, 56));
-    QVERIFY(logo.save(repository.dir() + u"/TarnwickLogo.png"_qs));
-    const auto row = shownRow(repository.dir());
-    const QImage shown = row->grab().toImage();
-    // Stretched to a square of 16 at the leading inset.
-    const TextLine* const name = lineSaying(*row, u"repo"_qs);
-    const int top = name->mapTo(row.get(), name->rect().center()).y() - 7;
-    for (const QPoint corner : {QPoint(20, top), QPoint(35, top + 14)})
-        QCOMPARE(shown.pixelColor(corner), QColor(12, 34, 56));
-    QVERIFY(shown.pixelColor(36, top) != QColor(12, 34, 56));
-    repository.write(u"TarnwickLogo.png"_qs, "no picture");
-    QVERIFY(!m_bench->record(repository.dir())->logo());
-}
 
 TARNWICK_TEST(RepoStatusViewTest)
 

@@ -3,7 +3,6 @@
 #include "views/colors.h"
 #include "views/status_summary.h"
 
-using namespace tarnwick;
 using namespace tarnwick::test;
 
 class StatusSummaryTest : public QObject
@@ -11,63 +10,58 @@ class StatusSummaryTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void hexadecimalColors_data();
-    void hexadecimalColors();
-    void parts_data();
-    void parts();
+    void hexadecimalColors_data()
+    {
+        const auto row = table<QColor>("expected");
+        const QColor fallback(1, 1, 0, 1);
+        row("FFB300", {255, 179, 0});
+        row("#ffb300 ", {255, 179, 0});
+        row("FB0", {255, 187, 0});
+        row("80FFB300", {255, 179, 0, 128});
+        row("FFB30", fallback);
+        row("#-#", fallback);
+        row("12G456", {0, 0, 0x12});
+        row("\303\251FFB3\303\251", {0, 0, 0});
+        row("F F", {0, 0, 255});
+    }
+
+    void hexadecimalColors()
+    {
+        QTEST(colorFromHex(QString::fromUtf8(QTest::currentDataTag())), "expected");
+    }
+
+    void parts_data()
+    {
+        const auto row = table<QString, QColor, QColor>("glyph", "dark", "light");
+        const auto both = [&](const char* word, const QString& glyph, QColor (*color)(Appearance)) {
+            row(word, glyph, color(Appearance::Dark), color(Appearance::Light));
+        };
+        row("added", u"\U00100238"_qs, colors::green(Appearance::Dark), {0, 0x99, 0});
+        both("deleted", u"\U00100212"_qs, colors::red);
+        both("removed", u"\U00100211"_qs, colors::indigo);
+        both("behind", u"\U00100129"_qs, colors::purple);
+        both("ahead", u"\U00100128"_qs, colors::blue);
+        row("changes", u"\U0010020A"_qs, colors::orange(Appearance::Dark), {0xff, 0xb3, 0});
+        row("change", u"\U0010020A"_qs, colors::orange(Appearance::Dark), {0xff, 0xb3, 0});
+        both("staged", u"\U0010022C"_qs, colors::teal);
+        both("untracked", u"\U00100123"_qs, colors::yellow);
+        row("moved", {}, Qt::white, Qt::white);
+    }
+
+    void parts()
+    {
+        const QString part = u"3\u00a0"_qs + QString::fromLatin1(QTest::currentDataTag());
+        QFETCH(QString, glyph);
+        QFETCH(QColor, dark);
+        QFETCH(QColor, light);
+        const QString start = glyph + QChar::Nbsp;
+        const QString words = glyph.isEmpty() ? part : start + part + u"   "_qs;
+        const QString icons = glyph.isEmpty() ? part : start + u"3   "_qs;
+        using enum SummaryStyle;
+        QCOMPARE(statusPartText(part, Words, Appearance::Dark), (TextSegment{words, dark}));
+        QCOMPARE(statusPartText(part, OnlyIcons, Appearance::Light), (TextSegment{icons, light}));
+    }
 };
-
-void StatusSummaryTest::hexadecimalColors_data()
-{
-    const auto row = table<QColor>("expected");
-    const QColor fallback(1, 1, 0, 1);
-    row("FFB300", {255, 179, 0});
-    row("#ffb300 ", {255, 179, 0});
-    row("FB0", {255, 187, 0});
-    row("80FFB300", {255, 179, 0, 128});
-    row("FFB30", fallback);
-    row("#-#", fallback);
-    row("12G456", {0, 0, 0x12});
-    row("\303\251FFB3\303\251", {0, 0, 0});
-    row("F F", {0, 0, 255});
-}
-
-void StatusSummaryTest::hexadecimalColors()
-{
-    QTEST(colorFromHex(QString::fromUtf8(QTest::currentDataTag())), "expected");
-}
-
-void StatusSummaryTest::parts_data()
-{
-    const auto row = table<QString, QColor, QColor>("glyph", "dark", "light");
-    const auto both = [&](const char* word, const QString& glyph, QColor (*color)(Appearance)) {
-        row(word, glyph, color(Appearance::Dark), color(Appearance::Light));
-    };
-    row("added", u"\U00100238"_qs, colors::green(Appearance::Dark), {0, 0x99, 0});
-    both("deleted", u"\U00100212"_qs, colors::red);
-    both("removed", u"\U00100211"_qs, colors::indigo);
-    both("behind", u"\U00100129"_qs, colors::purple);
-    both("ahead", u"\U00100128"_qs, colors::blue);
-    row("changes", u"\U0010020A"_qs, colors::orange(Appearance::Dark), {0xff, 0xb3, 0});
-    row("change", u"\U0010020A"_qs, colors::orange(Appearance::Dark), {0xff, 0xb3, 0});
-    both("staged", u"\U0010022C"_qs, colors::teal);
-    both("untracked", u"\U00100123"_qs, colors::yellow);
-    row("moved", {}, Qt::white, Qt::white);
-}
-
-void StatusSummaryTest::parts()
-{
-    const QString part = u"3\u00a0"_qs + QString::fromLatin1(QTest::currentDataTag());
-    QFETCH(QString, glyph);
-    QFETCH(QColor, dark);
-    QFETCH(QColor, light);
-    const QString start = glyph + QChar::Nbsp;
-    const QString words = glyph.isEmpty() ? part : start + part + u"   "_qs;
-    const QString icons = glyph.isEmpty() ? part : start + u"3   "_qs;
-    using enum SummaryStyle;
-    QCOMPARE(statusPartText(part, Words, Appearance::Dark), (TextSegment{words, dark}));
-    QCOMPARE(statusPartText(part, OnlyIcons, Appearance::Light), (TextSegment{icons, light}));
-}
 
 TARNWICK_TEST(StatusSummaryTest)
 
