@@ -43,10 +43,10 @@ private Q_SLOTS:
     void remoteIsLearntOnceAtCreation()
     {
         const TemporaryRepository repository;
-        repository.git({u"remote add origin git@github.com:owner/repo.git"_qs});
+        repository.run({u"git remote add origin git@github.com:owner/repo.git"_qs});
         const auto record = m_bench.record(repository.dir());
         QTRY_COMPARE(record->remoteUrl(), u"https://github.com/owner/repo"_qs);
-        repository.git({u"remote set-url origin git@gitlab.com:other/repo.git"_qs});
+        repository.run({u"git remote set-url origin git@gitlab.com:other/repo.git"_qs});
         refreshAll({record});
         QTRY_VERIFY(record->branchString() && record->gitStatus() && !record->isLoading());
         QCOMPARE(record->remoteUrl(), u"https://github.com/owner/repo"_qs);

@@ -12,7 +12,6 @@
 #include "support/workbench.h"
 
 #include <QApplication>
-#include <QTest>
 
 using namespace tarnwick::test;
 
@@ -26,10 +25,10 @@ struct NoTrayHost : TrayHost
 
 int menusVisible()
 {
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    return static_cast<int>(std::count_if(widgets.begin(), widgets.end(), [](auto* widget) {
-        return qobject_cast<StatusMenu*>(widget) && widget->isVisible();
-    }));
+    return static_cast<int>(
+        std::ranges::count_if(QApplication::topLevelWidgets(), [](auto* widget) {
+            return qobject_cast<StatusMenu*>(widget) && widget->isVisible();
+        }));
 }
 
 } // namespace

@@ -46,7 +46,7 @@ private Q_SLOTS:
             R"(<rss xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel>)";
         const QByteArray end = "</channel></rss>";
         const QByteArray ten = "<sparkle:version>10</sparkle:version>";
-        /// What stands in one item, beside another of version 9.
+        // What stands in one item, beside another of version 9.
         const auto item = [&](const QByteArray& content) {
             return start + "<item>" + content +
                    "</item><item><sparkle:version>9</sparkle:version></item>" + end;

@@ -18,14 +18,11 @@ using namespace tarnwick::test;
 
 namespace {
 
-QList<UpdateWindow*> windows()
+QWidgetList windows()
 {
-    QList<UpdateWindow*> found;
-    for (QWidget* const widget : QApplication::topLevelWidgets()) {
-        if (auto* const window = qobject_cast<UpdateWindow*>(widget))
-            found += window;
-    }
-    return found;
+    QWidgetList widgets = QApplication::topLevelWidgets();
+    widgets.removeIf([](QWidget* widget) { return !qobject_cast<UpdateWindow*>(widget); });
+    return widgets;
 }
 
 QStringList shown(const QWidget& window)
@@ -93,7 +90,7 @@ private Q_SLOTS:
                                                   : LoopbackServer::bytes(m_update.feed("pkg")));
             StandardUpdaterController controller(m_settings, true);
             controller.updater().checkForUpdates();
-            const UpdateWindow& window = *windows().first();
+            const QWidget& window = *windows().first();
             if (!isFeedSilent) {
                 QTRY_VERIFY(shown(window).contains(u"Tarnwick 1.3 is available"_qs));
                 press(window, u"Download"_qs);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QProcess>
-#include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -25,10 +24,8 @@ public:
         : m_dir(m_root.filePath(folder))
     {
         QDir().mkpath(m_dir);
-        git({u"init -q -b main"_qs});
-        for (const auto* name : {u"a", u"b", u"c", u"d"})
-            write(QString::fromUtf16(name), "first\n");
-        commitAll();
+        run({u"git init -q -b main; for file in a b c d; do echo first > $file; done"_qs,
+             u"git add -A; git commit -q -m work"_qs});
     }
 
     [[nodiscard]] const QString& dir() const { return m_dir; }
@@ -67,8 +64,6 @@ public:
             lines += u"git "_qs + command;
         run(lines);
     }
-
-    void commitAll() const { git({u"add -A"_qs, u"commit -q -m work"_qs}); }
 
 private:
     QTemporaryDir m_root;
