@@ -3,6 +3,8 @@
 
 #include "settings/settings_host.h"
 
+#include <utility>
+
 namespace tarnwick {
 
 std::shared_ptr<LaunchAtLoginFollower> LaunchAtLoginFollower::shared(PreferencesStore& store,

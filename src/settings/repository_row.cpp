@@ -29,6 +29,7 @@ QLabel* newHandle(QWidget* parent)
 {
     auto* const handle = new QLabel(symbolNamed(u"line.3.horizontal"), parent);
     handle->setFont(withSymbols(parent->font()));
+    handle->setAccessibleName(RepositoryRow::tr("Handle"));
     return handle;
 }
 

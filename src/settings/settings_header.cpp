@@ -44,6 +44,7 @@ SettingsHeader::SettingsHeader(const QString& version, QWidget* parent)
         newLine(symbolNamed(u"hammer.fill"), sized(withSymbols(font()), symbolSize), this);
     // The font's own line height leaves room for descenders that a symbol does not have.
     symbol->setFixedHeight(symbolSize);
+    symbol->setAccessibleName(tr("Settings"));
     column->addWidget(symbol);
     column->addSpacing(gapUnderSymbol);
     column->addWidget(newLine(QStringLiteral("Tarnwick"), font(), this));

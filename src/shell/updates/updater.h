@@ -7,8 +7,9 @@
 
 namespace tarnwick {
 
-/// Starts checks for updates, one at a time, each in a window of its own that outlives this object
-/// if it has to. Nothing is checked unasked. Main thread.
+/// Starts checks for updates, one at a time, each in a window of its own. The window outlives this
+/// object if it has to; another updater may then start a second one. Nothing is checked unasked.
+/// Main thread.
 class Updater : public QObject
 {
     Q_OBJECT
