@@ -27,10 +27,10 @@ QByteArray outputOf(const QString& program, const QStringList& arguments)
 RunningProgram::RunningProgram(const QJsonObject& preferences,
                                const QMap<QString, QString>& variables, const QString& program)
 {
-    writeFile(m_configHome.filePath(u"tarnwick/preferences.json"_qs),
+    writeFile(m_configHome.filePath(u"tarnwick/preferences.json"_s),
               QJsonDocument(preferences).toJson());
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"XDG_CONFIG_HOME"_qs, m_configHome.path());
+    environment.insert(u"XDG_CONFIG_HOME"_s, m_configHome.path());
     for (const auto& [name, value] : variables.asKeyValueRange())
         environment.insert(name, value);
     m_process.setProcessEnvironment(environment);
@@ -63,20 +63,20 @@ qsizetype RunningProgram::printedCount(const QString& start)
 
 QJsonObject RunningProgram::preferences() const
 {
-    QFile file(m_configHome.filePath(u"tarnwick/preferences.json"_qs));
+    QFile file(m_configHome.filePath(u"tarnwick/preferences.json"_s));
     return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object()
                                           : QJsonObject();
 }
 
 QPoint statusItemPosition()
 {
-    const QStringList parts = runScript(u"status_item_position.sh"_qs).simplified().split(u' ');
+    const QStringList parts = runScript(u"status_item_position.sh"_s).simplified().split(u' ');
     return parts.size() == 2 ? QPoint(parts[0].toInt(), parts[1].toInt()) : QPoint();
 }
 
 QList<Accessible> accessibleTree()
 {
-    const QString printed = runScript(u"accessible_tree.py"_qs, {u"tarnwick"_qs});
+    const QString printed = runScript(u"accessible_tree.py"_s, {u"tarnwick"_s});
     QList<Accessible> tree;
     for (const QString& line : printed.split(u'\n', Qt::SkipEmptyParts)) {
         const QStringList parts = line.split(u'\t');
@@ -120,7 +120,7 @@ Accessible appeared(const QString& start)
 bool openMenu()
 {
     const auto itemIsThere = [] { return !statusItemPosition().isNull(); };
-    const auto menuIsOpen = [] { return !accessibleNamed(u"Refresh all"_qs).name.isEmpty(); };
+    const auto menuIsOpen = [] { return !accessibleNamed(u"Refresh all"_s).name.isEmpty(); };
     // A click on an item that has only just been placed may be lost.
     return QTest::qWaitFor(itemIsThere, patienceMs) &&
            QTest::qWaitFor(
@@ -137,8 +137,8 @@ bool openPanel(const QString& row)
     if (!openMenu())
         return false;
     const QPoint middle = appeared(row).area.center();
-    xdotool({u"mousemove"_qs, QString::number(middle.x()), QString::number(middle.y())});
-    return !appeared(u"Show in Finder"_qs).name.isEmpty();
+    xdotool({u"mousemove"_s, QString::number(middle.x()), QString::number(middle.y())});
+    return !appeared(u"Show in Finder"_s).name.isEmpty();
 }
 
 bool clickNamed(const QString& start)
@@ -152,7 +152,7 @@ bool windowIsActive(const QString& title)
 {
     return QTest::qWaitFor(
         [&] {
-            return outputOf(u"xdotool"_qs, {u"getactivewindow"_qs, u"getwindowname"_qs})
+            return outputOf(u"xdotool"_s, {u"getactivewindow"_s, u"getwindowname"_s})
                        .trimmed() == title.toUtf8();
         },
         patienceMs);
@@ -160,23 +160,23 @@ bool windowIsActive(const QString& title)
 
 void xdotool(const QStringList& arguments)
 {
-    outputOf(u"xdotool"_qs, arguments);
+    outputOf(u"xdotool"_s, arguments);
 }
 
 void click(QPoint position, int button)
 {
-    xdotool({u"mousemove"_qs, QString::number(position.x()), QString::number(position.y()),
-             u"click"_qs, QString::number(button)});
+    xdotool({u"mousemove"_s, QString::number(position.x()), QString::number(position.y()),
+             u"click"_s, QString::number(button)});
 }
 
 void key(const QString& name)
 {
-    xdotool({u"key"_qs, name});
+    xdotool({u"key"_s, name});
 }
 
 QImage screenshot()
 {
-    return QImage::fromData(outputOf(u"import"_qs, {u"-window"_qs, u"root"_qs, u"png:-"_qs}),
+    return QImage::fromData(outputOf(u"import"_s, {u"-window"_s, u"root"_s, u"png:-"_s}),
                             "PNG");
 }
 

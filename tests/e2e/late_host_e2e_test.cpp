@@ -19,15 +19,15 @@ private Q_SLOTS:
 void LateHostE2eTest::itemAppearsWithTheHost_data()
 {
     QTest::addColumn<QString>("host");
-    QTest::newRow("status notifier host") << u"xfce4-panel"_qs;
-    QTest::newRow("XEmbed host") << u"trayer"_qs;
+    QTest::newRow("status notifier host") << u"xfce4-panel"_s;
+    QTest::newRow("XEmbed host") << u"trayer"_s;
 }
 
 void LateHostE2eTest::itemAppearsWithTheHost()
 {
     QFETCH(QString, host);
     RunningProgram program;
-    QTRY_COMPARE_WITH_TIMEOUT(program.printedCount(u"No status bar found; waiting for one."_qs), 1,
+    QTRY_COMPARE_WITH_TIMEOUT(program.printedCount(u"No status bar found; waiting for one."_s), 1,
                               15000);
     QVERIFY(statusItemPosition().isNull());
 
@@ -35,10 +35,10 @@ void LateHostE2eTest::itemAppearsWithTheHost()
     panel.start(QStringLiteral(TARNWICK_SCRIPTS "/tray_host.sh"), {host});
     QVERIFY(openMenu());
     const QString advice =
-        u"Open the settings (the gear) and add some repositories to get started!"_qs;
+        u"Open the settings (the gear) and add some repositories to get started!"_s;
     QVERIFY(menuRows().isEmpty());
     QCOMPARE(accessibleNamed(advice).area.height(), 140);
-    key(u"Escape"_qs);
+    key(u"Escape"_s);
     panel.terminate();
     panel.waitForFinished();
 }

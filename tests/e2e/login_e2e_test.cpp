@@ -31,9 +31,9 @@ private:
     }
     static qsizetype copies()
     {
-        const QStringList processes = QDir(u"/proc"_qs).entryList({u"[1-9]*"_qs});
+        const QStringList processes = QDir(u"/proc"_s).entryList({u"[1-9]*"_s});
         return std::count_if(processes.begin(), processes.end(), [](const QString& process) {
-            return QFile::symLinkTarget(u"/proc/%1/exe"_qs.arg(process)) ==
+            return QFile::symLinkTarget(u"/proc/%1/exe"_s.arg(process)) ==
                    QStringLiteral(TARNWICK_PROGRAM);
         });
     }
@@ -43,13 +43,13 @@ private:
 
 void LoginE2eTest::loginStartsOneCopy()
 {
-    const QString application = u"org.tarnwick.Tarnwick"_qs;
-    const QString helper = u"org.tarnwick.TarnwickLauncher"_qs;
+    const QString application = u"org.tarnwick.Tarnwick"_s;
+    const QString helper = u"org.tarnwick.TarnwickLauncher"_s;
     QDBusConnection bus = QDBusConnection::sessionBus();
-    QVERIFY(bus.connect({}, {}, u"org.tarnwick.DistributedNotifications"_qs, u"Posted"_qs, this,
+    QVERIFY(bus.connect({}, {}, u"org.tarnwick.DistributedNotifications"_s, u"Posted"_s, this,
                         SLOT(note(QString, QString))));
     const QString entry =
-        qEnvironmentVariable("XDG_CONFIG_HOME") + u"/autostart/"_qs + helper + u".desktop"_qs;
+        qEnvironmentVariable("XDG_CONFIG_HOME") + u"/autostart/"_s + helper + u".desktop"_s;
 
     QProcess first;
     first.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
@@ -57,14 +57,14 @@ void LoginE2eTest::loginStartsOneCopy()
     first.terminate();
     QVERIFY(first.waitForFinished());
 
-    QCOMPARE(QProcess::execute(u"gio"_qs, {u"launch"_qs, entry}), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(m_notes, QStringList{u"killTarnwickLauncher "_qs + application},
+    QCOMPARE(QProcess::execute(u"gio"_s, {u"launch"_s, entry}), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(m_notes, QStringList{u"killTarnwickLauncher "_s + application},
                               10000);
     QTRY_VERIFY(!runs(helper));
     QVERIFY(runs(application));
 
     const QString program =
-        QSettings(entry, QSettings::IniFormat).value(u"Desktop Entry/TryExec"_qs).toString();
+        QSettings(entry, QSettings::IniFormat).value(u"Desktop Entry/TryExec"_s).toString();
     QCOMPARE(QProcess::execute(program), 0); // another login while it runs
     QProcess second;
     second.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());

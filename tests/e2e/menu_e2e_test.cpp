@@ -10,7 +10,7 @@ using namespace tarnwick::test;
 
 namespace {
 
-const QString statusRun = u"/usr/bin/git -C "_qs;
+const QString statusRun = u"/usr/bin/git -C "_s;
 
 } // namespace
 
@@ -20,7 +20,7 @@ class MenuE2eTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { key(u"Escape"_qs); }
+    void cleanup() { key(u"Escape"_s); }
 
     void rowsFollowTheList();
     void refreshesWhenOpenedIfWanted_data();
@@ -33,27 +33,27 @@ private Q_SLOTS:
 
 void MenuE2eTest::rowsFollowTheList()
 {
-    const TemporaryRepository dirty(u"dirty it's"_qs);
-    dirty.run({u"git checkout -q -b feature/x; touch new; echo x >> a"_qs});
-    const TemporaryRepository clean(u"clean"_qs);
+    const TemporaryRepository dirty(u"dirty it's"_s);
+    dirty.run({u"git checkout -q -b feature/x; touch new; echo x >> a"_s});
+    const TemporaryRepository clean(u"clean"_s);
     RunningProgram program(
-        {{u"repos"_qs,
-          QStringList{dirty.dir(), u"/nonexistent/plain"_qs, clean.dir() + u'/'}.join(u'\n')}});
+        {{u"repos"_s,
+          QStringList{dirty.dir(), u"/nonexistent/plain"_s, clean.dir() + u'/'}.join(u'\n')}});
     QVERIFY(openMenu());
     QTRY_COMPARE_WITH_TIMEOUT(
         menuRows(),
-        (QStringList{u"dirty it's, branch feature/x, 1 change, 1 untracked"_qs, u"plain"_qs,
-                     u"clean, branch main, Repo is clean"_qs}),
+        (QStringList{u"dirty it's, branch feature/x, 1 change, 1 untracked"_s, u"plain"_s,
+                     u"clean, branch main, Repo is clean"_s}),
         10000);
     // Directly below the panel, one row under the other, all of it on the screen.
-    const QRect first = accessibleNamed(u"dirty"_qs).area;
-    const QRect last = accessibleNamed(u"clean"_qs).area;
+    const QRect first = accessibleNamed(u"dirty"_s).area;
+    const QRect last = accessibleNamed(u"clean"_s).area;
     QVERIFY(first.top() > statusItemPosition().y());
     QVERIFY(first.left() == last.left() && first.bottom() < last.top());
     QVERIFY(screenshot().rect().contains(first | last));
-    QCOMPARE(program.printedCount(u"nmot repo"_qs), 1);
+    QCOMPARE(program.printedCount(u"nmot repo"_s), 1);
 
-    key(u"Escape"_qs);
+    key(u"Escape"_s);
     QTRY_VERIFY_WITH_TIMEOUT(menuRows().isEmpty(), 10000);
 }
 
@@ -61,9 +61,9 @@ void MenuE2eTest::refreshesWhenOpenedIfWanted_data()
 {
     QTest::addColumn<QJsonValue>("refreshOnMenuOpen");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("never touched") << QJsonValue() << u"repo, branch main, Repo is clean"_qs;
-    QTest::newRow("off") << QJsonValue(false) << u"repo, branch main, Repo is clean"_qs;
-    QTest::newRow("on") << QJsonValue(true) << u"repo, branch other, 1 change"_qs;
+    QTest::newRow("never touched") << QJsonValue() << u"repo, branch main, Repo is clean"_s;
+    QTest::newRow("off") << QJsonValue(false) << u"repo, branch main, Repo is clean"_s;
+    QTest::newRow("on") << QJsonValue(true) << u"repo, branch other, 1 change"_s;
 }
 
 void MenuE2eTest::refreshesWhenOpenedIfWanted()
@@ -71,17 +71,17 @@ void MenuE2eTest::refreshesWhenOpenedIfWanted()
     QFETCH(QJsonValue, refreshOnMenuOpen);
     QFETCH(QString, expected);
     const TemporaryRepository repository;
-    QJsonObject preferences{{u"repos"_qs, repository.dir()}};
+    QJsonObject preferences{{u"repos"_s, repository.dir()}};
     if (!refreshOnMenuOpen.isNull())
-        preferences.insert(u"refreshOnMenuOpen"_qs, refreshOnMenuOpen);
+        preferences.insert(u"refreshOnMenuOpen"_s, refreshOnMenuOpen);
     RunningProgram program(preferences);
     QVERIFY(openMenu());
-    QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{u"repo, branch main, Repo is clean"_qs},
+    QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{u"repo, branch main, Repo is clean"_s},
                               10000);
-    key(u"Escape"_qs);
+    key(u"Escape"_s);
     QTRY_VERIFY(menuRows().isEmpty());
 
-    repository.run({u"git checkout -q -b other; echo x >> a"_qs});
+    repository.run({u"git checkout -q -b other; echo x >> a"_s});
     const qsizetype runsBefore = program.printedCount(statusRun);
     QVERIFY(openMenu());
     QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{expected}, 10000);
@@ -91,21 +91,21 @@ void MenuE2eTest::refreshesWhenOpenedIfWanted()
 void MenuE2eTest::branchClickLeavesTheMenuOpen()
 {
     const TemporaryRepository repository;
-    RunningProgram program({{u"repos"_qs, repository.dir()}});
+    RunningProgram program({{u"repos"_s, repository.dir()}});
     QVERIFY(openMenu());
-    const QRect row = accessibleNamed(u"repo, branch main"_qs).area;
+    const QRect row = accessibleNamed(u"repo, branch main"_s).area;
     // The second of three lines, behind the symbol.
     click({row.left() + 50, row.center().y()});
-    QTRY_COMPARE(program.printedCount(u"Open sourcetree?"_qs), 1);
+    QTRY_COMPARE(program.printedCount(u"Open sourcetree?"_s), 1);
     click({row.left() + 250, row.center().y()});
     QCOMPARE(menuRows().size(), 1);
-    QCOMPARE(program.printedCount(u"Open sourcetree?"_qs), 1);
+    QCOMPARE(program.printedCount(u"Open sourcetree?"_s), 1);
 }
 
 void MenuE2eTest::contextMenuRefreshesAll()
 {
     const TemporaryRepository repository;
-    RunningProgram program({{u"repos"_qs, repository.dir()}});
+    RunningProgram program({{u"repos"_s, repository.dir()}});
     QTRY_VERIFY_WITH_TIMEOUT(!statusItemPosition().isNull(), 20000);
     QTRY_COMPARE(program.printedCount(statusRun), 3);
     // "Refresh all" is the second entry; the menu may take a moment to accept keys.
@@ -113,7 +113,7 @@ void MenuE2eTest::contextMenuRefreshesAll()
         [&] {
             click(statusItemPosition(), 3);
             QTest::qWait(500);
-            xdotool({u"key"_qs, u"Down"_qs, u"Down"_qs, u"Return"_qs});
+            xdotool({u"key"_s, u"Down"_s, u"Down"_s, u"Return"_s});
             return QTest::qWaitFor([&] { return program.printedCount(statusRun) == 5; }, 2000);
         },
         15000));
@@ -124,30 +124,30 @@ void MenuE2eTest::hundredRepositoriesScroll()
     const TemporaryRepository repository;
     QStringList dirs;
     for (int i = 1; i <= 100; ++i)
-        dirs += u"/nonexistent/folder%1"_qs.arg(i, 3, 10, QChar(u'0'));
+        dirs += u"/nonexistent/folder%1"_s.arg(i, 3, 10, QChar(u'0'));
     dirs.last() = repository.dir();
-    const RunningProgram program({{u"repos"_qs, dirs.join(u'\n')}});
+    const RunningProgram program({{u"repos"_s, dirs.join(u'\n')}});
     QVERIFY(openMenu());
-    const QRect first = accessibleNamed(u"folder001"_qs).area;
+    const QRect first = accessibleNamed(u"folder001"_s).area;
     QVERIFY(first.width() <= 360);
-    QVERIFY(!screenshot().rect().contains(accessibleNamed(u"repo, "_qs).area));
-    xdotool({u"mousemove"_qs, QString::number(first.center().x()),
-             QString::number(first.bottom() + 60), u"click"_qs, u"--repeat"_qs, u"150"_qs,
-             u"--delay"_qs, u"5"_qs, u"5"_qs});
+    QVERIFY(!screenshot().rect().contains(accessibleNamed(u"repo, "_s).area));
+    xdotool({u"mousemove"_s, QString::number(first.center().x()),
+             QString::number(first.bottom() + 60), u"click"_s, u"--repeat"_s, u"150"_s,
+             u"--delay"_s, u"5"_s, u"5"_s});
     QTRY_VERIFY_WITH_TIMEOUT(
-        screenshot().rect().contains(accessibleNamed(u"repo, branch main"_qs).area), 10000);
-    QCOMPARE(accessibleNamed(u"repo, branch main"_qs).area.left(), first.left());
+        screenshot().rect().contains(accessibleNamed(u"repo, branch main"_s).area), 10000);
+    QCOMPARE(accessibleNamed(u"repo, branch main"_s).area.left(), first.left());
 }
 
 void MenuE2eTest::followsTheDesktopIntoTheDark()
 {
     const TemporaryRepository repository;
-    const RunningProgram program({{u"repos"_qs, repository.dir()}});
+    const RunningProgram program({{u"repos"_s, repository.dir()}});
     QVERIFY(openMenu());
     QTRY_VERIFY(showsColor(screenshot(), QColor(0, 0x99, 0)));
-    runScript(u"desktop_theme.sh"_qs, {u"dark"_qs});
+    runScript(u"desktop_theme.sh"_s, {u"dark"_s});
     QTRY_VERIFY_WITH_TIMEOUT(showsColor(screenshot(), QColor(0x32, 0xd7, 0x4b)), 10000);
-    runScript(u"desktop_theme.sh"_qs, {u"light"_qs});
+    runScript(u"desktop_theme.sh"_s, {u"light"_s});
     QTRY_VERIFY_WITH_TIMEOUT(showsColor(screenshot(), QColor(0, 0x99, 0)), 10000);
 }
 

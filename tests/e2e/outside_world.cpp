@@ -9,7 +9,7 @@ namespace tarnwick::test {
 
 namespace {
 
-const QString fileManager = u"org.freedesktop.FileManager1"_qs;
+const QString fileManager = u"org.freedesktop.FileManager1"_s;
 
 void writeProgram(const QString& path, const QByteArray& lines)
 {
@@ -31,25 +31,25 @@ OutsideWorld::OutsideWorld()
 {
     const QByteArray root = m_root.path().toUtf8();
     // Each note is ended by a byte that no argument can hold.
-    writeProgram(path(u"bin/note"_qs),
+    writeProgram(path(u"bin/note"_s),
                  "{ printf '<%s>' \"$@\"; printf '\\0'; } >> " + root + "/started\n");
-    writeProgram(path(u"bin/xdg-terminal-exec"_qs),
+    writeProgram(path(u"bin/xdg-terminal-exec"_s),
                  root + "/bin/note terminal \"$@\"\necho $$ >> " + root +
                      "/terminals\nexec xterm -e \"$@\"\n");
     const auto entry = [&](const QByteArray& name, const QByteArray& arguments) {
-        writeFile(path(u"data/applications/%1.desktop"_qs.arg(QString::fromUtf8(name))),
+        writeFile(path(u"data/applications/%1.desktop"_s.arg(QString::fromUtf8(name))),
                   "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=" + root +
                       "/bin/note " + arguments + "\n");
     };
     entry("Recorder", "app --open %F --name %c end");
     entry("Browser", "browser %u");
-    writeFile(path(u"data/applications/mimeapps.list"_qs),
+    writeFile(path(u"data/applications/mimeapps.list"_s),
               "[Default Applications]\nx-scheme-handler/http=Browser.desktop\n"
               "x-scheme-handler/https=Browser.desktop\ninode/directory=Recorder.desktop\n"
               "text/plain=Recorder.desktop\n");
-    QVERIFY(QDir(m_root.path()).mkpath(u"home"_qs));
+    QVERIFY(QDir(m_root.path()).mkpath(u"home"_s));
 
-    QVERIFY(m_bus.registerObject(u"/org/freedesktop/FileManager1"_qs, this,
+    QVERIFY(m_bus.registerObject(u"/org/freedesktop/FileManager1"_s, this,
                                  QDBusConnection::ExportAllSlots));
     QVERIFY(m_bus.registerService(fileManager));
 }
@@ -57,7 +57,7 @@ OutsideWorld::OutsideWorld()
 OutsideWorld::~OutsideWorld()
 {
     m_bus.unregisterService(fileManager);
-    m_bus.unregisterObject(u"/org/freedesktop/FileManager1"_qs);
+    m_bus.unregisterObject(u"/org/freedesktop/FileManager1"_s);
     for (const int pid : terminals())
         ::kill(pid, SIGTERM);
 }
@@ -65,15 +65,15 @@ OutsideWorld::~OutsideWorld()
 QMap<QString, QString> OutsideWorld::variables() const
 {
     // A desktop that is known has openers of its own, which go by other settings.
-    return {{u"XDG_CURRENT_DESKTOP"_qs, u"X-Test"_qs},
-            {u"HOME"_qs, path(u"home"_qs)},
-            {u"XDG_DATA_HOME"_qs, path(u"data"_qs)},
-            {u"PATH"_qs, path(u"bin:"_qs) + qEnvironmentVariable("PATH")}};
+    return {{u"XDG_CURRENT_DESKTOP"_s, u"X-Test"_s},
+            {u"HOME"_s, path(u"home"_s)},
+            {u"XDG_DATA_HOME"_s, path(u"data"_s)},
+            {u"PATH"_s, path(u"bin:"_s) + qEnvironmentVariable("PATH")}};
 }
 
 QStringList OutsideWorld::started() const
 {
-    return linesOf(path(u"started"_qs), '\0');
+    return linesOf(path(u"started"_s), '\0');
 }
 
 qsizetype OutsideWorld::openTerminals() const
@@ -91,7 +91,7 @@ void OutsideWorld::ShowItems(const QStringList& uris, const QString& /*startupId
 QList<int> OutsideWorld::terminals() const
 {
     QList<int> pids;
-    for (const QString& line : linesOf(path(u"terminals"_qs), '\n'))
+    for (const QString& line : linesOf(path(u"terminals"_s), '\n'))
         pids += line.toInt();
     return pids;
 }

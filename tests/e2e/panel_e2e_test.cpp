@@ -10,23 +10,23 @@ using namespace tarnwick::test;
 
 namespace {
 
-const QString oddName = u"-n it's \"odd\" $(touch pwned) %20 ü"_qs;
-const QString address = u"https://github.com/tarnwick/sample"_qs;
+const QString oddName = u"-n it's \"odd\" $(touch pwned) %20 ü"_s;
+const QString address = u"https://github.com/tarnwick/sample"_s;
 
 /// With a remote that has an address in the web but stands beside it, and one commit ahead of it.
 void publish(const TemporaryRepository& repository)
 {
     repository.run(
-        {u"git clone -q --bare . ../up.git"_qs, u"git remote add origin "_qs + address + u".git"_qs,
-         u"git config \"url.%1.insteadOf\" %2.git"_qs.arg(repository.beside(u"up.git"_qs), address),
-         u"git fetch -q; git branch -q -u origin/main"_qs,
-         u"git commit -q --allow-empty -m ahead"_qs});
+        {u"git clone -q --bare . ../up.git"_s, u"git remote add origin "_s + address + u".git"_s,
+         u"git config \"url.%1.insteadOf\" %2.git"_s.arg(repository.beside(u"up.git"_s), address),
+         u"git fetch -q; git branch -q -u origin/main"_s,
+         u"git commit -q --allow-empty -m ahead"_s});
 }
 
 QString headOf(const QString& gitFolder)
 {
     QProcess git;
-    git.start(u"git"_qs, {u"-C"_qs, gitFolder, u"log"_qs, u"-1"_qs, u"--format=%s"_qs, u"main"_qs});
+    git.start(u"git"_s, {u"-C"_s, gitFolder, u"log"_s, u"-1"_s, u"--format=%s"_s, u"main"_s});
     git.waitForFinished();
     return QString::fromUtf8(git.readAll()).trimmed();
 }
@@ -39,7 +39,7 @@ class PanelE2eTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { xdotool({u"key"_qs, u"Escape"_qs, u"Escape"_qs}); }
+    void cleanup() { xdotool({u"key"_s, u"Escape"_s, u"Escape"_s}); }
 
     void entriesReachTheDesktop();
     void gitRunsInTheTerminal();
@@ -54,33 +54,33 @@ void PanelE2eTest::entriesReachTheDesktop()
     const OutsideWorld world;
     const TemporaryRepository repository(oddName);
     publish(repository);
-    repository.run({u"touch f1 f2 f3 f4 f5 f6 f7 f8 f9"_qs});
+    repository.run({u"touch f1 f2 f3 f4 f5 f6 f7 f8 f9"_s});
     const QString dir = repository.dir();
-    RunningProgram program({{u"repos"_qs, dir},
-                            {oddName + u"-urls"_qs, u"file:///usr @@ Folder"_qs},
-                            {u"showinapps___Recorder.app"_qs, true}},
+    RunningProgram program({{u"repos"_s, dir},
+                            {oddName + u"-urls"_s, u"file:///usr @@ Folder"_s},
+                            {u"showinapps___Recorder.app"_s, true}},
                            world.variables());
     QVERIFY(openPanel(oddName));
 
     const QList<std::pair<QString, QString>> starts{
-        {u"Open in Recorder"_qs, u"<app><--open><%1><--name><Recorder><end>"_qs.arg(dir)},
-        {u"Open repo on remote"_qs, u"<browser><%1>"_qs.arg(address)},
-        {u"Folder"_qs, u"<app><--open></usr><--name><Recorder><end>"_qs}};
+        {u"Open in Recorder"_s, u"<app><--open><%1><--name><Recorder><end>"_s.arg(dir)},
+        {u"Open repo on remote"_s, u"<browser><%1>"_s.arg(address)},
+        {u"Folder"_s, u"<app><--open></usr><--name><Recorder><end>"_s}};
     for (const auto& [entry, expected] : starts) {
         const qsizetype before = world.started().size();
         QVERIFY2(clickNamed(entry), qPrintable(entry));
         QTRY_COMPARE_WITH_TIMEOUT(world.started().mid(before), QStringList{expected}, 10000);
     }
-    for (const QString& entry : {u"Show in Finder"_qs, u"f3"_qs, u"... 1 more"_qs})
+    for (const QString& entry : {u"Show in Finder"_s, u"f3"_s, u"... 1 more"_s})
         QVERIFY2(clickNamed(entry), qPrintable(entry));
-    QTRY_COMPARE_WITH_TIMEOUT(world.revealed(), (QStringList{dir, dir + u"/f3"_qs, dir}), 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(world.revealed(), (QStringList{dir, dir + u"/f3"_s, dir}), 10000);
 
-    QVERIFY(clickNamed(u"Start terminal here"_qs));
+    QVERIFY(clickNamed(u"Start terminal here"_s));
     QTRY_VERIFY_WITH_TIMEOUT(world.started().constLast().startsWith(u"<terminal>"), 10000);
-    QVERIFY(world.started().constLast().endsWith(u"<%1>"_qs.arg(dir)));
-    QVERIFY(!accessibleNamed(u"Show in Finder"_qs).name.isEmpty());
+    QVERIFY(world.started().constLast().endsWith(u"<%1>"_s.arg(dir)));
+    QVERIFY(!accessibleNamed(u"Show in Finder"_s).name.isEmpty());
     QTRY_COMPARE(world.openTerminals(), 1);
-    QVERIFY(!QFile::exists(dir + u"/pwned"_qs) && !QFile::exists(u"pwned"_qs));
+    QVERIFY(!QFile::exists(dir + u"/pwned"_s) && !QFile::exists(u"pwned"_s));
 }
 
 void PanelE2eTest::gitRunsInTheTerminal()
@@ -88,25 +88,25 @@ void PanelE2eTest::gitRunsInTheTerminal()
     const OutsideWorld world;
     const TemporaryRepository repository(oddName);
     publish(repository);
-    RunningProgram program({{u"repos"_qs, repository.dir()}}, world.variables());
+    RunningProgram program({{u"repos"_s, repository.dir()}}, world.variables());
     QVERIFY(openPanel(oddName));
-    QVERIFY(clickNamed(u"Push"_qs));
-    QTRY_COMPARE_WITH_TIMEOUT(headOf(repository.beside(u"up.git"_qs)), u"ahead"_qs, 20000);
+    QVERIFY(clickNamed(u"Push"_s));
+    QTRY_COMPARE_WITH_TIMEOUT(headOf(repository.beside(u"up.git"_s)), u"ahead"_s, 20000);
 
-    repository.run({u"git clone -q ../up.git ../other; cd ../other"_qs,
-                    u"git commit -q --allow-empty -m theirs; git push -q"_qs});
-    QVERIFY(clickNamed(u"Pull"_qs));
-    QTRY_COMPARE_WITH_TIMEOUT(headOf(repository.dir()), u"theirs"_qs, 20000);
+    repository.run({u"git clone -q ../up.git ../other; cd ../other"_s,
+                    u"git commit -q --allow-empty -m theirs; git push -q"_s});
+    QVERIFY(clickNamed(u"Pull"_s));
+    QTRY_COMPARE_WITH_TIMEOUT(headOf(repository.dir()), u"theirs"_s, 20000);
 
-    repository.write(u"a"_qs, "changed\n");
-    QVERIFY(clickNamed(u"Stash"_qs));
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(repository.dir() + u"/.git/refs/stash"_qs), 20000);
+    repository.write(u"a"_s, "changed\n");
+    QVERIFY(clickNamed(u"Stash"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(repository.dir() + u"/.git/refs/stash"_s), 20000);
     QCOMPARE(world.openTerminals(), 3);
-    QCOMPARE(program.printedCount(u"/usr/bin/git -C %1 status"_qs.arg(repository.dir())), 2);
+    QCOMPARE(program.printedCount(u"/usr/bin/git -C %1 status"_s.arg(repository.dir())), 2);
     for (const auto& [index, command] :
-         {std::pair{0, u"push"_qs}, {1, u"pull"_qs}, {2, u"stash"_qs}})
+         {std::pair{0, u"push"_s}, {1, u"pull"_s}, {2, u"stash"_s}})
         QVERIFY(world.started().value(index).endsWith(
-            u"<%1><git><%2>"_qs.arg(repository.dir(), command)));
+            u"<%1><git><%2>"_s.arg(repository.dir(), command)));
 }
 
 void PanelE2eTest::promptsAreAnsweredInTheTerminal()
@@ -114,75 +114,75 @@ void PanelE2eTest::promptsAreAnsweredInTheTerminal()
     const OutsideWorld world;
     const TemporaryRepository repository;
     publish(repository);
-    writeFile(repository.dir() + u"/.git/hooks/pre-push"_qs,
+    writeFile(repository.dir() + u"/.git/hooks/pre-push"_s,
               "#!/bin/sh\nread answer < /dev/tty && [ \"$answer\" = yes ]\n");
-    repository.run({u"chmod +x .git/hooks/pre-push"_qs});
-    const RunningProgram program({{u"repos"_qs, repository.dir()}}, world.variables());
-    QVERIFY(openPanel(u"repo"_qs));
-    QVERIFY(clickNamed(u"Push"_qs));
+    repository.run({u"chmod +x .git/hooks/pre-push"_s});
+    const RunningProgram program({{u"repos"_s, repository.dir()}}, world.variables());
+    QVERIFY(openPanel(u"repo"_s));
+    QVERIFY(clickNamed(u"Push"_s));
     QTRY_COMPARE_WITH_TIMEOUT(world.openTerminals(), 1, 10000);
-    xdotool({u"key"_qs, u"Escape"_qs, u"Escape"_qs});
-    xdotool({u"search"_qs, u"--sync"_qs, u"--onlyvisible"_qs, u"--class"_qs, u"XTerm"_qs,
-             u"windowactivate"_qs, u"--sync"_qs});
+    xdotool({u"key"_s, u"Escape"_s, u"Escape"_s});
+    xdotool({u"search"_s, u"--sync"_s, u"--onlyvisible"_s, u"--class"_s, u"XTerm"_s,
+             u"windowactivate"_s, u"--sync"_s});
     QVERIFY(QTest::qWaitFor(
         [&] {
-            xdotool({u"type"_qs, u"yes\n"_qs});
-            return headOf(repository.beside(u"up.git"_qs)) == u"ahead";
+            xdotool({u"type"_s, u"yes\n"_s});
+            return headOf(repository.beside(u"up.git"_s)) == u"ahead";
         },
         20000));
 }
 
 void PanelE2eTest::installedApplicationOpensTheRepository()
 {
-    const TemporaryRepository repository(u"opened-in-thunar"_qs);
+    const TemporaryRepository repository(u"opened-in-thunar"_s);
     const RunningProgram program(
-        {{u"repos"_qs, repository.dir()}, {u"showinapps___Thunar File Manager.app"_qs, true}});
-    QVERIFY(openPanel(u"opened-in-thunar"_qs));
-    QVERIFY(clickNamed(u"Open in Thunar File Manager"_qs));
-    xdotool({u"search"_qs, u"--sync"_qs, u"--onlyvisible"_qs, u"--name"_qs,
-             u"opened-in-thunar.*Thunar"_qs});
-    QProcess::execute(u"thunar"_qs, {u"--quit"_qs});
+        {{u"repos"_s, repository.dir()}, {u"showinapps___Thunar File Manager.app"_s, true}});
+    QVERIFY(openPanel(u"opened-in-thunar"_s));
+    QVERIFY(clickNamed(u"Open in Thunar File Manager"_s));
+    xdotool({u"search"_s, u"--sync"_s, u"--onlyvisible"_s, u"--name"_s,
+             u"opened-in-thunar.*Thunar"_s});
+    QProcess::execute(u"thunar"_s, {u"--quit"_s});
 }
 
 void PanelE2eTest::addedLinkOpensInTheBrowser()
 {
     const OutsideWorld world;
     const TemporaryRepository repository;
-    RunningProgram program({{u"repos"_qs, repository.dir()}}, world.variables());
-    QVERIFY(openPanel(u"repo"_qs));
-    QVERIFY(clickNamed(u"add link"_qs));
-    QVERIFY(windowIsActive(u"Add links"_qs));
-    const QString text = u"http://localhost/board?a=1&b @@ The board"_qs;
-    xdotool({u"type"_qs, u"--delay"_qs, u"2"_qs, text});
-    QVERIFY(clickNamed(u"Save and close settings"_qs));
-    QTRY_COMPARE_WITH_TIMEOUT(program.preferences().value(u"repo-urls"_qs).toString(), text, 10000);
-    QTRY_VERIFY_WITH_TIMEOUT(accessibleNamed(u"Add links"_qs).name.isEmpty(), 10000);
+    RunningProgram program({{u"repos"_s, repository.dir()}}, world.variables());
+    QVERIFY(openPanel(u"repo"_s));
+    QVERIFY(clickNamed(u"add link"_s));
+    QVERIFY(windowIsActive(u"Add links"_s));
+    const QString text = u"http://localhost/board?a=1&b @@ The board"_s;
+    xdotool({u"type"_s, u"--delay"_s, u"2"_s, text});
+    QVERIFY(clickNamed(u"Save and close settings"_s));
+    QTRY_COMPARE_WITH_TIMEOUT(program.preferences().value(u"repo-urls"_s).toString(), text, 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(accessibleNamed(u"Add links"_s).name.isEmpty(), 10000);
 
-    QVERIFY(openPanel(u"repo"_qs));
-    QVERIFY(clickNamed(u"The board"_qs));
+    QVERIFY(openPanel(u"repo"_s));
+    QVERIFY(clickNamed(u"The board"_s));
     QTRY_COMPARE_WITH_TIMEOUT(world.started(),
-                              QStringList{u"<browser><http://localhost/board?a=1&b>"_qs}, 10000);
-    QCOMPARE(program.printedCount(u"http://localhost/board?a=1&b"_qs), 1);
+                              QStringList{u"<browser><http://localhost/board?a=1&b>"_s}, 10000);
+    QCOMPARE(program.printedCount(u"http://localhost/board?a=1&b"_s), 1);
 }
 
 void PanelE2eTest::keyboardReachesTheEntries()
 {
     const OutsideWorld world;
     const TemporaryRepository repository;
-    repository.run({u"mkdir App.xcodeproj"_qs});
-    const RunningProgram program({{u"repos"_qs, repository.dir()}}, world.variables());
+    repository.run({u"mkdir App.xcodeproj"_s});
+    const RunningProgram program({{u"repos"_s, repository.dir()}}, world.variables());
     QVERIFY(openMenu());
-    QVERIFY(!appeared(u"repo, branch main, Repo is clean"_qs).name.isEmpty());
+    QVERIFY(!appeared(u"repo, branch main, Repo is clean"_s).name.isEmpty());
     // From the last row into its panel, to its first entry and on to the third.
-    xdotool({u"key"_qs, u"Up"_qs, u"Right"_qs});
-    QVERIFY(!appeared(u"Start terminal here"_qs).name.isEmpty());
-    key(u"Return"_qs);
+    xdotool({u"key"_s, u"Up"_s, u"Right"_s});
+    QVERIFY(!appeared(u"Start terminal here"_s).name.isEmpty());
+    key(u"Return"_s);
     QTRY_COMPARE_WITH_TIMEOUT(
         world.started(),
         QStringList{
-            u"<app><--open><%1/App.xcodeproj><--name><Recorder><end>"_qs.arg(repository.dir())},
+            u"<app><--open><%1/App.xcodeproj><--name><Recorder><end>"_s.arg(repository.dir())},
         10000);
-    xdotool({u"key"_qs, u"Down"_qs, u"Down"_qs, u"Return"_qs});
+    xdotool({u"key"_s, u"Down"_s, u"Down"_s, u"Return"_s});
     QTRY_COMPARE_WITH_TIMEOUT(world.openTerminals(), 1, 10000);
 }
 

@@ -17,7 +17,7 @@ class UpdatesE2eTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { key(u"Escape"_qs); }
+    void cleanup() { key(u"Escape"_s); }
 
     void downloadIsVerifiedAndOpened_data();
     void downloadIsVerifiedAndOpened();
@@ -29,9 +29,9 @@ void UpdatesE2eTest::downloadIsVerifiedAndOpened_data()
     QTest::addColumn<QString>("conclusion");
     QTest::addColumn<bool>("isKept");
     QTest::newRow("genuine") << QByteArray("the new version")
-                             << u"Tarnwick 1.3 has been downloaded"_qs << true;
+                             << u"Tarnwick 1.3 has been downloaded"_s << true;
     QTest::newRow("tampered") << QByteArray("the bad version")
-                              << u"The new version could not be downloaded"_qs << false;
+                              << u"The new version could not be downloaded"_s << false;
 }
 
 void UpdatesE2eTest::downloadIsVerifiedAndOpened()
@@ -46,31 +46,31 @@ void UpdatesE2eTest::downloadIsVerifiedAndOpened()
     server.answer("/feed", LoopbackServer::bytes(update.feed(package)));
     server.answer("/files/tarnwick-10.txt", LoopbackServer::bytes(served));
 
-    QProcess::execute(u"cp"_qs,
-                      {u"-a"_qs, QStringLiteral(TARNWICK_INSTALLED), world.path(u"app"_qs)});
+    QProcess::execute(u"cp"_s,
+                      {u"-a"_s, QStringLiteral(TARNWICK_INSTALLED), world.path(u"app"_s)});
     writeFile(
-        world.path(u"app/share/tarnwick/Info.json"_qs),
-        QJsonDocument(QJsonObject{{u"CFBundleIdentifier"_qs, u"org.tarnwick.Tarnwick"_qs},
-                                  {u"CFBundleVersion"_qs, u"9"_qs},
-                                  {u"SUFeedURL"_qs, server.url("/feed").toString()},
-                                  {u"SUPublicEDKey"_qs, QString::fromLatin1(update.publicKey())}})
+        world.path(u"app/share/tarnwick/Info.json"_s),
+        QJsonDocument(QJsonObject{{u"CFBundleIdentifier"_s, u"org.tarnwick.Tarnwick"_s},
+                                  {u"CFBundleVersion"_s, u"9"_s},
+                                  {u"SUFeedURL"_s, server.url("/feed").toString()},
+                                  {u"SUPublicEDKey"_s, QString::fromLatin1(update.publicKey())}})
             .toJson());
-    const RunningProgram program({}, world.variables(), world.path(u"app/bin/tarnwick"_qs));
+    const RunningProgram program({}, world.variables(), world.path(u"app/bin/tarnwick"_s));
     QVERIFY(openMenu());
-    QVERIFY(clickNamed(u"Check for updates"_qs));
-    QVERIFY(windowIsActive(u"Software Update"_qs));
-    QVERIFY(clickNamed(u"Download"_qs));
+    QVERIFY(clickNamed(u"Check for updates"_s));
+    QVERIFY(windowIsActive(u"Software Update"_s));
+    QVERIFY(clickNamed(u"Download"_s));
     QVERIFY(!appeared(conclusion).name.isEmpty());
 
-    const QString file = world.path(u"home/Downloads/tarnwick-10.txt"_qs);
-    const auto files = QDir(world.path(u"home/Downloads"_qs)).entryList(QDir::Files | QDir::Hidden);
-    QCOMPARE(files, isKept ? QStringList{u"tarnwick-10.txt"_qs} : QStringList());
+    const QString file = world.path(u"home/Downloads/tarnwick-10.txt"_s);
+    const auto files = QDir(world.path(u"home/Downloads"_s)).entryList(QDir::Files | QDir::Hidden);
+    QCOMPARE(files, isKept ? QStringList{u"tarnwick-10.txt"_s} : QStringList());
     QTRY_COMPARE_WITH_TIMEOUT(
         world.started(),
-        isKept ? QStringList{u"<app><--open><%1><--name><Recorder><end>"_qs.arg(file)}
+        isKept ? QStringList{u"<app><--open><%1><--name><Recorder><end>"_s.arg(file)}
                : QStringList(),
         10000);
-    QVERIFY(clickNamed(u"Close"_qs));
+    QVERIFY(clickNamed(u"Close"_s));
 }
 
 TARNWICK_TEST(UpdatesE2eTest)

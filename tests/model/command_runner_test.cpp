@@ -38,21 +38,21 @@ private Q_SLOTS:
     void deliversOnTheMainThread_data()
     {
         const auto row = table<QString, QString>("script", "expected");
-        row("whole, line feed included", u"echo one; echo two; exit 3"_qs, u"one\ntwo\n"_qs);
-        row("failure is empty", u"echo fatal >&2; exit 128"_qs, {});
-        row("letters", u"printf '\\303\\251\\360\\237\\214\\277'"_qs, u"\u00e9\U0001f33f"_qs);
-        row("byte order mark stays", u"printf '\\357\\273\\277x'"_qs, u"\ufeffx"_qs);
+        row("whole, line feed included", u"echo one; echo two; exit 3"_s, u"one\ntwo\n"_s);
+        row("failure is empty", u"echo fatal >&2; exit 128"_s, {});
+        row("letters", u"printf '\\303\\251\\360\\237\\214\\277'"_s, u"\u00e9\U0001f33f"_s);
+        row("byte order mark stays", u"printf '\\357\\273\\277x'"_s, u"\ufeffx"_s);
         row("more than a pipe holds on both channels",
-            u"head -c 300000 /dev/zero | tr '\\0' e >&2; head -c 300000 /dev/zero | tr '\\0' o"_qs,
+            u"head -c 300000 /dev/zero | tr '\\0' e >&2; head -c 300000 /dev/zero | tr '\\0' o"_s,
             QString(300000, u'o'));
-        row("died of a signal", u"echo so far; kill -KILL $$"_qs, u"so far\n"_qs);
+        row("died of a signal", u"echo so far; kill -KILL $$"_s, u"so far\n"_s);
     }
 
     void deliversOnTheMainThread()
     {
         QFETCH(QString, script);
         Delivery delivery;
-        m_bench.queue.post([&] { m_shell.runGit({u"-c"_qs, script}, m_record, into(delivery)); });
+        m_bench.queue.post([&] { m_shell.runGit({u"-c"_s, script}, m_record, into(delivery)); });
         QTRY_COMPARE(delivery.count, 1);
         QCOMPARE(delivery.thread, QThread::currentThread());
         QTEST(delivery.output, "expected");
@@ -63,23 +63,23 @@ private Q_SLOTS:
         Delivery delivery;
         QSemaphore done;
         m_bench.queue.post([&] {
-            m_shell.runGit({u"-c"_qs, u"printf 'ok\\377'; echo why >&2"_qs}, m_record,
+            m_shell.runGit({u"-c"_s, u"printf 'ok\\377'; echo why >&2"_s}, m_record,
                            into(delivery));
             done.release();
         });
         // No event loop turns here: only the calling thread can have delivered.
         QVERIFY(done.tryAcquire(1, 10000));
-        QCOMPARE(delivery.output, u"1?"_qs);
+        QCOMPARE(delivery.output, u"1?"_s);
         QVERIFY(delivery.thread != QThread::currentThread());
     }
 
     void nothingDecodableAnswersNever()
     {
         Delivery delivery;
-        m_shell.runGit({u"-c"_qs, u"printf '\\302'; printf '\\377' >&2"_qs}, m_record,
+        m_shell.runGit({u"-c"_s, u"printf '\\302'; printf '\\377' >&2"_s}, m_record,
                        into(delivery));
         Delivery later;
-        m_shell.runGit({u"-c"_qs, u"true"_qs}, m_record, into(later));
+        m_shell.runGit({u"-c"_s, u"true"_s}, m_record, into(later));
         QTRY_COMPARE(later.count, 1);
         QCOMPARE(delivery.count, 0);
     }
@@ -87,10 +87,10 @@ private Q_SLOTS:
     void openIsAwaited()
     {
         const QTemporaryDir dir;
-        const QString proof = dir.filePath(u"it's \"$(done)\""_qs);
-        m_shell.runOpen({u"-c"_qs, u"sleep 0.1; echo \"$1\" > \"$1\""_qs, u"open"_qs, proof});
+        const QString proof = dir.filePath(u"it's \"$(done)\""_s);
+        m_shell.runOpen({u"-c"_s, u"sleep 0.1; echo \"$1\" > \"$1\""_s, u"open"_s, proof});
         QVERIFY(QFile::exists(proof));
-        CommandRunner({.open = u"/nonexistent/open"_qs}).runOpen({u"-a"_qs, u"x"_qs});
+        CommandRunner({.open = u"/nonexistent/open"_s}).runOpen({u"-a"_s, u"x"_s});
     }
 
     void hangingJobsGiveUpTheirPlace()
@@ -109,11 +109,11 @@ private Q_SLOTS:
     {
         const auto row = table<std::function<void()>>("action");
         row("git that cannot be started",
-            [this] { CommandRunner({.git = u"/nonexistent/git"_qs}).runGit({}, m_record, {}); });
+            [this] { CommandRunner({.git = u"/nonexistent/git"_s}).runGit({}, m_record, {}); });
         row("empty status", [] { static_cast<void>(changedFiles({})); });
-        row("status without a line feed", [] { static_cast<void>(changedFiles(u"1?"_qs)); });
+        row("status without a line feed", [] { static_cast<void>(changedFiles(u"1?"_s)); });
         row("list without a delegate", [this] {
-            m_bench.store.setObject(u"/a"_qs, u"repos"_qs);
+            m_bench.store.setObject(u"/a"_s, u"repos"_s);
             const RepoManager list(m_bench.store, m_bench.services(), [] { return nullptr; });
         });
     }
@@ -125,9 +125,9 @@ private Q_SLOTS:
     }
 
 private:
-    const CommandRunner m_shell{{.git = u"/bin/sh"_qs, .open = u"/bin/sh"_qs}};
+    const CommandRunner m_shell{{.git = u"/bin/sh"_s, .open = u"/bin/sh"_s}};
     Workbench m_bench;
-    const std::shared_ptr<RepoViewModel> m_record = m_bench.record(u"/nonexistent"_qs);
+    const std::shared_ptr<RepoViewModel> m_record = m_bench.record(u"/nonexistent"_s);
 };
 
 TARNWICK_TEST(CommandRunnerTest)

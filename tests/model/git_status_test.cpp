@@ -13,28 +13,28 @@ private Q_SLOTS:
     {
         // "~" stands for the no-break space.
         const auto row = table<QString, QString>("gitStatus", "expected");
-        const QString header = u"## main\n"_qs;
+        const QString header = u"## main\n"_s;
         row("nothing", {}, {});
-        row("placeholder", u"1?"_qs, {});
+        row("placeholder", u"1?"_s, {});
         row("clean", header, {});
-        row("clean with upstream", u"## main...origin/main\n"_qs, {});
+        row("clean with upstream", u"## main...origin/main\n"_s, {});
         row("diverged and mixed",
-            u"## main...origin/main [ahead 2, behind 1]\n M a.txt\nMM b.txt\n?? c.txt\n"_qs,
-            u"2~changes, 1~behind, 2~ahead, 1~untracked, 1~staged"_qs);
+            u"## main...origin/main [ahead 2, behind 1]\n M a.txt\nMM b.txt\n?? c.txt\n"_s,
+            u"2~changes, 1~behind, 2~ahead, 1~untracked, 1~staged"_s);
         row("all eight",
-            u"## m...o/m [ahead 12, behind 3]\nA  a\nD  b\nM  c\n M d\n D e\n?? f\n?? g\n"_qs,
-            u"1~change, 3~behind, 12~ahead, 1~added, 2~untracked, 1~staged, 1~removed, 1~deleted"_qs);
-        row("one change", header + u" M a.txt\n"_qs, u"1~change"_qs);
-        row("staged has no plural", header + u"M  a\nM  b\nM  c\nM  d\n"_qs, u"4~staged"_qs);
-        row("AM, RM and MD count nowhere", header + u"A  n\nAM o\nRM p -> q\nMD r\n"_qs,
-            u"1~added"_qs);
-        row("removed before deleted", header + u" D gone\nD  old\n"_qs, u"1~removed, 1~deleted"_qs);
-        row("code within a name", header + u"?? x M y.txt\n"_qs, u"1~change, 1~untracked"_qs);
-        row("code within the header", u"## No commits yet on M  x\n"_qs, u"1~change, 1~staged"_qs);
-        row("DD is only removed half", header + u" DD\n"_qs, u"1~removed"_qs);
-        row("more blanks after ahead", u"## m [ahead  2]\n"_qs, u" 2~ahead"_qs);
-        row("gone upstream", u"## main...origin/main [gone]\n"_qs, {});
-        row("conflict", header + u"UU a\nAA b\n"_qs, {});
+            u"## m...o/m [ahead 12, behind 3]\nA  a\nD  b\nM  c\n M d\n D e\n?? f\n?? g\n"_s,
+            u"1~change, 3~behind, 12~ahead, 1~added, 2~untracked, 1~staged, 1~removed, 1~deleted"_s);
+        row("one change", header + u" M a.txt\n"_s, u"1~change"_s);
+        row("staged has no plural", header + u"M  a\nM  b\nM  c\nM  d\n"_s, u"4~staged"_s);
+        row("AM, RM and MD count nowhere", header + u"A  n\nAM o\nRM p -> q\nMD r\n"_s,
+            u"1~added"_s);
+        row("removed before deleted", header + u" D gone\nD  old\n"_s, u"1~removed, 1~deleted"_s);
+        row("code within a name", header + u"?? x M y.txt\n"_s, u"1~change, 1~untracked"_s);
+        row("code within the header", u"## No commits yet on M  x\n"_s, u"1~change, 1~staged"_s);
+        row("DD is only removed half", header + u" DD\n"_s, u"1~removed"_s);
+        row("more blanks after ahead", u"## m [ahead  2]\n"_s, u" 2~ahead"_s);
+        row("gone upstream", u"## main...origin/main [gone]\n"_s, {});
+        row("conflict", header + u"UU a\nAA b\n"_s, {});
     }
 
     void summary()
@@ -47,13 +47,13 @@ private Q_SLOTS:
     void changedPaths_data()
     {
         const auto row = table<QString, QStringList>("gitStatus", "expected");
-        row("header alone", u"## main\n"_qs, {});
-        row("both halves at the end", u"## main\nA  a\nMM b\n M c\n"_qs,
-            {u"A  a"_qs, u" M c"_qs, u"M  b"_qs, u" M b"_qs});
-        row("several, in their order", u"## main\nMM b\nMM a\n?? x\n"_qs,
-            {u"?? x"_qs, u"M  b"_qs, u" M b"_qs, u"M  a"_qs, u" M a"_qs});
-        row("code in the name too", u"## main\nMM MM x\n"_qs, {u"M  M  x"_qs, u" M  M x"_qs});
-        row("last line without line feed is lost", u"## main\n M a\n M b"_qs, {u" M a"_qs});
+        row("header alone", u"## main\n"_s, {});
+        row("both halves at the end", u"## main\nA  a\nMM b\n M c\n"_s,
+            {u"A  a"_s, u" M c"_s, u"M  b"_s, u" M b"_s});
+        row("several, in their order", u"## main\nMM b\nMM a\n?? x\n"_s,
+            {u"?? x"_s, u"M  b"_s, u" M b"_s, u"M  a"_s, u" M a"_s});
+        row("code in the name too", u"## main\nMM MM x\n"_s, {u"M  M  x"_s, u" M  M x"_s});
+        row("last line without line feed is lost", u"## main\n M a\n M b"_s, {u" M a"_s});
     }
 
     void changedPaths()
@@ -64,8 +64,8 @@ private Q_SLOTS:
 
     void piecesAreTrimmedAndKept()
     {
-        QCOMPARE(components2(u"-a \t- b\n+c-"_qs, {u"-"_qs, u"+"_qs}),
-                 (QStringList{{}, u"a"_qs, u"b\n"_qs, u"c"_qs, {}}));
+        QCOMPARE(components2(u"-a \t- b\n+c-"_s, {u"-"_s, u"+"_s}),
+                 (QStringList{{}, u"a"_s, u"b\n"_s, u"c"_s, {}}));
     }
 };
 

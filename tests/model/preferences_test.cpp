@@ -19,53 +19,53 @@ private Q_SLOTS:
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();
-        m_path = m_folder->filePath(u"sub/preferences.json"_qs);
+        m_path = m_folder->filePath(u"sub/preferences.json"_s);
     }
 
     void typesSurviveARestart()
     {
         {
             PreferencesStore store(m_path);
-            store.setBool(false, u"launchOnStartup"_qs);
-            store.setValue(true, u"onyIcons"_qs);
-            store.setObject(u"true"_qs, u"x\u00e9/-urls"_qs);
-            store.setObject(u"/a\n/b"_qs, u"repos"_qs);
+            store.setBool(false, u"launchOnStartup"_s);
+            store.setValue(true, u"onyIcons"_s);
+            store.setObject(u"true"_s, u"x\u00e9/-urls"_s);
+            store.setObject(u"/a\n/b"_s, u"repos"_s);
         }
         QFile file(m_path);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(QJsonDocument::fromJson(file.readAll()).object(),
-                 (QJsonObject{{u"launchOnStartup"_qs, false},
-                              {u"onyIcons"_qs, true},
-                              {u"x\u00e9/-urls"_qs, u"true"_qs},
-                              {u"repos"_qs, u"/a\n/b"_qs}}));
-        QCOMPARE(PreferencesStore(m_path).stringForKey(u"x\u00e9/-urls"_qs), u"true"_qs);
+                 (QJsonObject{{u"launchOnStartup"_s, false},
+                              {u"onyIcons"_s, true},
+                              {u"x\u00e9/-urls"_s, u"true"_s},
+                              {u"repos"_s, u"/a\n/b"_s}}));
+        QCOMPARE(PreferencesStore(m_path).stringForKey(u"x\u00e9/-urls"_s), u"true"_s);
     }
 
     void absentAndMistypedReadAsDefaults()
     {
         writeFile(m_path, R"({"repos": true, "onyIcons": "true", "other": [1]})");
         PreferencesStore store(m_path);
-        QVERIFY(!store.stringForKey(u"repos"_qs));
-        QVERIFY(!store.boolForKey(u"onyIcons"_qs));
-        QVERIFY(!store.boolForKey(u"absent"_qs));
-        store.setBool(true, u"new"_qs);
+        QVERIFY(!store.stringForKey(u"repos"_s));
+        QVERIFY(!store.boolForKey(u"onyIcons"_s));
+        QVERIFY(!store.boolForKey(u"absent"_s));
+        store.setBool(true, u"new"_s);
         store.synchronize();
         QCOMPARE(PreferencesStore(m_path).dictionaryRepresentation().keys(),
-                 (QStringList{u"new"_qs, u"onyIcons"_qs, u"other"_qs, u"repos"_qs}));
+                 (QStringList{u"new"_s, u"onyIcons"_s, u"other"_s, u"repos"_s}));
     }
 
     void firstRunDefaultsAreWrittenOnce()
     {
         PreferencesStore store(m_path);
         writeFirstRunDefaults(store);
-        const QVariantMap expected{{u"hasWrittenDefaultsOnce"_qs, true},
-                                   {u"showinapps___Atom.app"_qs, true},
-                                   {u"showinapps___Sourcetree.app"_qs, true},
-                                   {u"showinapps___Sublime Text.app"_qs, true}};
+        const QVariantMap expected{{u"hasWrittenDefaultsOnce"_s, true},
+                                   {u"showinapps___Atom.app"_s, true},
+                                   {u"showinapps___Sourcetree.app"_s, true},
+                                   {u"showinapps___Sublime Text.app"_s, true}};
         QCOMPARE(store.dictionaryRepresentation(), expected);
-        store.setBool(false, u"showinapps___Atom.app"_qs);
+        store.setBool(false, u"showinapps___Atom.app"_s);
         writeFirstRunDefaults(store);
-        QVERIFY(!store.boolForKey(u"showinapps___Atom.app"_qs));
+        QVERIFY(!store.boolForKey(u"showinapps___Atom.app"_s));
     }
 
     void unreadableFileIsSetAside()
@@ -75,36 +75,36 @@ private Q_SLOTS:
             writeFile(m_path, content);
             PreferencesStore store(m_path);
             QVERIFY(store.dictionaryRepresentation().isEmpty());
-            store.setBool(true, u"onyIcons"_qs);
+            store.setBool(true, u"onyIcons"_s);
         }
         QStringList kept;
-        for (const QFileInfo& entry : QFileInfo(m_path).dir().entryInfoList({u"*.unreadable-*"_qs}))
+        for (const QFileInfo& entry : QFileInfo(m_path).dir().entryInfoList({u"*.unreadable-*"_s}))
             kept += QString::number(entry.size());
         kept.sort();
-        QCOMPARE(kept, (QStringList{u"0"_qs, u"13"_qs, u"2"_qs}));
-        QVERIFY(PreferencesStore(m_path).boolForKey(u"onyIcons"_qs));
+        QCOMPARE(kept, (QStringList{u"0"_s, u"13"_s, u"2"_s}));
+        QVERIFY(PreferencesStore(m_path).boolForKey(u"onyIcons"_s));
     }
 
     void listIsLoadedAsStored_data()
     {
         const auto row = table<QString, QStringList>("stored", "loaded");
         row("empty", {}, {});
-        row("slashes", u"/a/\n/b//\n/c"_qs, {u"/a"_qs, u"/b/"_qs, u"/c"_qs});
-        row("empty entry persists", u"/a\n"_qs, {u"/a"_qs, {}});
-        row("duplicates", u"/a\n/a"_qs, {u"/a"_qs, u"/a"_qs});
+        row("slashes", u"/a/\n/b//\n/c"_s, {u"/a"_s, u"/b/"_s, u"/c"_s});
+        row("empty entry persists", u"/a\n"_s, {u"/a"_s, {}});
+        row("duplicates", u"/a\n/a"_s, {u"/a"_s, u"/a"_s});
     }
 
     void listIsLoadedAsStored()
     {
         QFETCH(QString, stored);
         PreferencesStore store(m_path);
-        store.setObject(stored, u"repos"_qs);
+        store.setObject(stored, u"repos"_s);
         RepoManager list = manager(store);
         QTEST(dirs(list), "loaded");
-        QCOMPARE(store.stringForKey(u"repos"_qs), stored);
+        QCOMPARE(store.stringForKey(u"repos"_s), stored);
         list.save();
         QFETCH(QStringList, loaded);
-        QCOMPARE(store.stringForKey(u"repos"_qs), loaded.join(u'\n'));
+        QCOMPARE(store.stringForKey(u"repos"_s), loaded.join(u'\n'));
     }
 
     void listEditsAreStored()
@@ -112,15 +112,15 @@ private Q_SLOTS:
         PreferencesStore store(m_path);
         RepoManager list = manager(store);
         QVERIFY(list.models().empty());
-        QVERIFY(!store.stringForKey(u"repos"_qs));
+        QVERIFY(!store.stringForKey(u"repos"_s));
 
         const auto delegate = std::make_shared<NoDelegate>();
         for (const auto* dir : {u"/one", u"/two/", u" three", u"/one"})
             list.add(QString::fromUtf16(dir), delegate);
         // On the disk at once, whatever ends the program.
-        QCOMPARE(PreferencesStore(m_path).stringForKey(u"repos"_qs),
-                 u"/one\n three\n/two\n/one"_qs);
-        QCOMPARE(dirs(list), (QStringList{u"/one"_qs, u" three"_qs, u"/two"_qs, u"/one"_qs}));
+        QCOMPARE(PreferencesStore(m_path).stringForKey(u"repos"_s),
+                 u"/one\n three\n/two\n/one"_s);
+        QCOMPARE(dirs(list), (QStringList{u"/one"_s, u" three"_s, u"/two"_s, u"/one"_s}));
         QVERIFY(list.models().front()->delegate() != delegate);
 
         const auto kept = list.models().back();
@@ -131,8 +131,8 @@ private Q_SLOTS:
         std::reverse(reordered.begin(), reordered.end());
         list.setModels(reordered);
         list.save();
-        QCOMPARE(PreferencesStore(m_path).stringForKey(u"repos"_qs), u"/two\n three"_qs);
-        QCOMPARE(kept->name(), u"one"_qs);
+        QCOMPARE(PreferencesStore(m_path).stringForKey(u"repos"_s), u"/two\n three"_s);
+        QCOMPARE(kept->name(), u"one"_s);
     }
 
 private:

@@ -16,21 +16,21 @@ private Q_SLOTS:
     void remoteBecomesWebAddress_data()
     {
         const auto row = table<QString, QString>("remote", "address");
-        row("scp form", u"git@github.com:owner/repo.git\n"_qs, u"https://github.com/owner/repo"_qs);
-        row("https", u"https://github.com/owner/repo.git\n"_qs,
-            u"https://github.com/owner/repo"_qs);
-        row("host that does not end in com", u"git@gitlab.gnome.org:owner/repo.git"_qs,
-            u"https://gitlab.gnome.org:owner/repo"_qs);
-        row("ssh with a port", u"ssh://git@gitlab.com:22/o/r.git"_qs,
-            u"ssh://https://gitlab.com/22/o/r"_qs);
-        row("only in the name", u"git@example.com:me/github-notes.git"_qs,
-            u"https://example.com/me/github-notes"_qs);
-        row(".git within the name", u"https://github.com/o/a.github.io.git"_qs,
-            u"https://github.com/o/ahub.io"_qs);
-        row("another host", u"git@example.com:owner/repo.git"_qs, {});
-        row("capitals", u"https://GitHub.com/owner/repo"_qs, {});
+        row("scp form", u"git@github.com:owner/repo.git\n"_s, u"https://github.com/owner/repo"_s);
+        row("https", u"https://github.com/owner/repo.git\n"_s,
+            u"https://github.com/owner/repo"_s);
+        row("host that does not end in com", u"git@gitlab.gnome.org:owner/repo.git"_s,
+            u"https://gitlab.gnome.org:owner/repo"_s);
+        row("ssh with a port", u"ssh://git@gitlab.com:22/o/r.git"_s,
+            u"ssh://https://gitlab.com/22/o/r"_s);
+        row("only in the name", u"git@example.com:me/github-notes.git"_s,
+            u"https://example.com/me/github-notes"_s);
+        row(".git within the name", u"https://github.com/o/a.github.io.git"_s,
+            u"https://github.com/o/ahub.io"_s);
+        row("another host", u"git@example.com:owner/repo.git"_s, {});
+        row("capitals", u"https://GitHub.com/owner/repo"_s, {});
         row("no remote", {}, {});
-        row("output that is no text", u"1?"_qs, {});
+        row("output that is no text", u"1?"_s, {});
     }
 
     void remoteBecomesWebAddress()
@@ -43,55 +43,55 @@ private Q_SLOTS:
     void remoteIsLearntOnceAtCreation()
     {
         const TemporaryRepository repository;
-        repository.run({u"git remote add origin git@github.com:owner/repo.git"_qs});
+        repository.run({u"git remote add origin git@github.com:owner/repo.git"_s});
         const auto record = m_bench.record(repository.dir());
-        QTRY_COMPARE(record->remoteUrl(), u"https://github.com/owner/repo"_qs);
-        repository.run({u"git remote set-url origin git@gitlab.com:other/repo.git"_qs});
+        QTRY_COMPARE(record->remoteUrl(), u"https://github.com/owner/repo"_s);
+        repository.run({u"git remote set-url origin git@gitlab.com:other/repo.git"_s});
         refreshAll({record});
         QTRY_VERIFY(record->branchString() && record->gitStatus() && !record->isLoading());
-        QCOMPARE(record->remoteUrl(), u"https://github.com/owner/repo"_qs);
+        QCOMPARE(record->remoteUrl(), u"https://github.com/owner/repo"_s);
     }
 
     void linksAreReadAsTyped_data()
     {
         const auto row = table<QString, QList<RepoLink>>("stored", "links");
-        row("empty lines", u"\nhttp://a @@ Docs\n\n"_qs, {{u"http://a"_qs, u"Docs"_qs}});
-        row("second separator", u"a @@ b @@ c"_qs, {{u"a"_qs, u"b"_qs}});
-        row("spaces belong", u" a  @@  b \r\nc @@ "_qs, {{u" a "_qs, u" b \r"_qs}, {u"c"_qs, {}}});
+        row("empty lines", u"\nhttp://a @@ Docs\n\n"_s, {{u"http://a"_s, u"Docs"_s}});
+        row("second separator", u"a @@ b @@ c"_s, {{u"a"_s, u"b"_s}});
+        row("spaces belong", u" a  @@  b \r\nc @@ "_s, {{u" a "_s, u" b \r"_s}, {u"c"_s, {}}});
         row("empty text", {}, {});
     }
 
     void linksAreReadAsTyped()
     {
         QFETCH(QString, stored);
-        const auto here = m_bench.record(u"/nonexistent/a/app"_qs);
-        const auto there = m_bench.record(u"/nonexistent/b/app"_qs);
-        m_bench.store.setObject(stored, u"app-urls"_qs);
+        const auto here = m_bench.record(u"/nonexistent/a/app"_s);
+        const auto there = m_bench.record(u"/nonexistent/b/app"_s);
+        m_bench.store.setObject(stored, u"app-urls"_s);
         QTEST(here->links(), "links");
         QTEST(there->links(), "links");
         for (const auto* malformed : {"http://a@@Docs", "a @@ b\n ", "http://a"}) {
-            m_bench.store.setObject(QString::fromLatin1(malformed), u"app-urls"_qs);
+            m_bench.store.setObject(QString::fromLatin1(malformed), u"app-urls"_s);
             QVERIFY2(stopsProcess([&] { static_cast<void>(here->links()); }), malformed);
         }
     }
 
     void terminalIsTold()
     {
-        const auto record = m_bench.record(u"/tmp/x"_qs);
+        const auto record = m_bench.record(u"/tmp/x"_s);
         record->push();
         record->pull();
         record->stash();
         record->startTerminal();
         QStringList told;
         for (const TerminalRequest& request : m_bench.terminal.requests) {
-            QCOMPARE(request.dir, u"/tmp/x"_qs);
+            QCOMPARE(request.dir, u"/tmp/x"_s);
             const QString command = request.command.join(u' ');
-            const QString line = command.isEmpty() ? command : u" && "_qs + command;
+            const QString line = command.isEmpty() ? command : u" && "_s + command;
             QCOMPARE(request.appleScript, u"tell application \"Terminal\"\n    activate\n"
-                                          "    do script \"cd '/tmp/x'%1\"\nend tell"_qs.arg(line));
+                                          "    do script \"cd '/tmp/x'%1\"\nend tell"_s.arg(line));
             told += command;
         }
-        QCOMPARE(told, (QStringList{u"git push"_qs, u"git pull"_qs, u"git stash"_qs, {}}));
+        QCOMPARE(told, (QStringList{u"git push"_s, u"git pull"_s, u"git stash"_s, {}}));
     }
 
     void projectsOfTwoLevelsAreFound()
@@ -101,20 +101,20 @@ private Q_SLOTS:
              {"App.xcodeproj/project.xcworkspace", "ios/My Other.xcworkspace",
               "ios/deep/Far.xcodeproj", ".build/Hidden.xcodeproj", "a#b.xcodeproj"})
             QVERIFY(QDir(root.path()).mkpath(QString::fromLatin1(folder)));
-        writeFile(root.filePath(u"File.xcodeproj"_qs), "a file has no slash to drop");
+        writeFile(root.filePath(u"File.xcodeproj"_s), "a file has no slash to drop");
 
         QStringList kinds;
         QStringList paths;
         for (const RepoViewModel::PP& found : m_bench.record(root.path())->projectFiles()) {
-            QCOMPARE(found.image, u"Xcode"_qs);
+            QCOMPARE(found.image, u"Xcode"_s);
             QCOMPARE(found.title, found.path.section(u'/', -1));
             kinds += found.path.section(u'.', -1);
             paths += found.path.mid(root.path().size() + 1);
         }
-        QCOMPARE(kinds.join(u' '), u"xcodeproj xcodeproj xcworkspace xcworkspace"_qs);
+        QCOMPARE(kinds.join(u' '), u"xcodeproj xcodeproj xcworkspace xcworkspace"_s);
         paths.sort();
-        QCOMPARE(paths, (QStringList{u"App.xcodeproj"_qs, u"App.xcodeproj/project.xcworkspace"_qs,
-                                     u"a%23b.xcodeproj"_qs, u"ios/My Other.xcworkspace"_qs}));
+        QCOMPARE(paths, (QStringList{u"App.xcodeproj"_s, u"App.xcodeproj/project.xcworkspace"_s,
+                                     u"a%23b.xcodeproj"_s, u"ios/My Other.xcworkspace"_s}));
         QVERIFY(m_bench.record(QString())->projectFiles().isEmpty());
     }
 

@@ -16,30 +16,30 @@ private Q_SLOTS:
         const auto row = table<QStringList, QString>("commands", "expected");
         const QString upstream =
             u"git clone -q --bare . ../up.git; git remote add origin ../up.git;"
-            "git fetch -q; git branch -q -u origin/main"_qs;
-        const QString ahead = u"echo x >> a; git commit -q -am more"_qs;
+            "git fetch -q; git branch -q -u origin/main"_s;
+        const QString ahead = u"echo x >> a; git commit -q -am more"_s;
         const QString behind = u"git reset -q --hard HEAD~; git push -q -f origin HEAD@{1}:main;"
-                               "git fetch -q"_qs;
+                               "git fetch -q"_s;
 
-        row("clean", {}, u"main: clean"_qs);
-        row("level with its upstream", {upstream}, u"main: clean"_qs);
-        row("ahead", {upstream, ahead, ahead}, u"main: 2 ahead"_qs);
-        row("behind", {upstream, ahead, behind}, u"main: 1 behind"_qs);
-        row("diverged", {upstream, ahead, behind, u"echo y > n; git add n; git commit -q -m n"_qs},
-            u"main: 1 behind, 1 ahead"_qs);
+        row("clean", {}, u"main: clean"_s);
+        row("level with its upstream", {upstream}, u"main: clean"_s);
+        row("ahead", {upstream, ahead, ahead}, u"main: 2 ahead"_s);
+        row("behind", {upstream, ahead, behind}, u"main: 1 behind"_s);
+        row("diverged", {upstream, ahead, behind, u"echo y > n; git add n; git commit -q -m n"_s},
+            u"main: 1 behind, 1 ahead"_s);
         row("all six of the working tree",
-            {u"echo x >> a; echo x >> b; git add b; git rm -q c; rm d; touch e f; git add e"_qs},
-            u"main: 1 change, 1 added, 1 untracked, 1 staged, 1 removed, 1 deleted"_qs);
-        row("feature branch", {u"git checkout -q -b feature/x"_qs}, u"feature/x: clean"_qs);
-        row("detached head", {u"git checkout -q --detach"_qs}, u"HEAD: clean"_qs);
-        row("unborn branch", {u"rm -rf .git; git init -q -b main"_qs}, u"HEAD: 4 untracked"_qs);
+            {u"echo x >> a; echo x >> b; git add b; git rm -q c; rm d; touch e f; git add e"_s},
+            u"main: 1 change, 1 added, 1 untracked, 1 staged, 1 removed, 1 deleted"_s);
+        row("feature branch", {u"git checkout -q -b feature/x"_s}, u"feature/x: clean"_s);
+        row("detached head", {u"git checkout -q --detach"_s}, u"HEAD: clean"_s);
+        row("unborn branch", {u"rm -rf .git; git init -q -b main"_s}, u"HEAD: 4 untracked"_s);
         row("conflict",
-            {u"git checkout -q -b o; echo o > a; git commit -q -am o"_qs,
-             u"git checkout -q main; echo m > a; git commit -q -am m"_qs,
-             u"git merge -q o || true"_qs},
-            u"main: clean"_qs);
-        row("rename", {u"git mv a z; echo x >> b"_qs}, u"main: 1 change"_qs);
-        row("not git's after all", {u"rm -rf .git; mkdir .git"_qs}, u": clean"_qs);
+            {u"git checkout -q -b o; echo o > a; git commit -q -am o"_s,
+             u"git checkout -q main; echo m > a; git commit -q -am m"_s,
+             u"git merge -q o || true"_s},
+            u"main: clean"_s);
+        row("rename", {u"git mv a z; echo x >> b"_s}, u"main: 1 change"_s);
+        row("not git's after all", {u"rm -rf .git; mkdir .git"_s}, u": clean"_s);
     }
 
     void readsRealRepositories()
@@ -53,22 +53,22 @@ private Q_SLOTS:
     void readsLinkedWorkTreesAndSubmodules()
     {
         const TemporaryRepository repository;
-        repository.run({u"git worktree add -q -b side ../tree; touch ../tree/n"_qs,
-                        u"git init -q -b main ../outer; cd ../outer"_qs,
-                        u"git -c protocol.file.allow=always submodule --quiet add ../repo inner"_qs,
-                        u"echo x >> inner/a"_qs});
-        QCOMPARE(settled(*m_bench.record(repository.beside(u"tree"_qs))), u"side: 1 untracked"_qs);
-        QCOMPARE(settled(*m_bench.record(repository.beside(u"outer/inner"_qs))),
-                 u"main: 1 change"_qs);
+        repository.run({u"git worktree add -q -b side ../tree; touch ../tree/n"_s,
+                        u"git init -q -b main ../outer; cd ../outer"_s,
+                        u"git -c protocol.file.allow=always submodule --quiet add ../repo inner"_s,
+                        u"echo x >> inner/a"_s});
+        QCOMPARE(settled(*m_bench.record(repository.beside(u"tree"_s))), u"side: 1 untracked"_s);
+        QCOMPARE(settled(*m_bench.record(repository.beside(u"outer/inner"_s))),
+                 u"main: 1 change"_s);
     }
 
     void surroundingsChangeNothing()
     {
         const TemporaryRepository repository;
         repository.run(
-            {u"git clone -q --bare . ../up.git; git remote add origin ../up.git"_qs,
-             u"git fetch -q; git branch -q -u origin/main; git config color.status always"_qs,
-             u"git config color.ui always; git commit -q --allow-empty -m x; echo x >> a"_qs});
+            {u"git clone -q --bare . ../up.git; git remote add origin ../up.git"_s,
+             u"git fetch -q; git branch -q -u origin/main; git config color.status always"_s,
+             u"git config color.ui always; git commit -q --allow-empty -m x; echo x >> a"_s});
         const std::pair<const char*, const char*> surroundings[]{
             {"LANG", "de_DE.UTF-8"},
             {"LANGUAGE", "de:fr"},
@@ -87,21 +87,21 @@ private Q_SLOTS:
 
     void namesThePathsOfOddFolders()
     {
-        const TemporaryRepository repository(u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_qs);
-        repository.write(u"A M \u00e9.txt"_qs, "new");
+        const TemporaryRepository repository(u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_s);
+        repository.write(u"A M \u00e9.txt"_s, "new");
         const auto odd = m_bench.record(repository.dir());
-        QCOMPARE(odd->name(), u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_qs);
-        QCOMPARE(settled(*odd), u"main: 1 change, 1 untracked"_qs);
+        QCOMPARE(odd->name(), u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_s);
+        QCOMPARE(settled(*odd), u"main: 1 change, 1 untracked"_s);
         // Git quotes such a name.
-        QCOMPARE(odd->changedFiles(), QStringList{u"?? \"A M \\303\\251.txt\""_qs});
-        QCOMPARE(m_bench.record(u"/nonexistent/"_qs)->name(), QString());
+        QCOMPARE(odd->changedFiles(), QStringList{u"?? \"A M \\303\\251.txt\""_s});
+        QCOMPARE(m_bench.record(u"/nonexistent/"_s)->name(), QString());
     }
 
     void plainFolderRunsNoGit()
     {
         const QTemporaryDir folder;
         // A record that ran this git would end the process.
-        const CommandRunner noGit{{.git = u"/nonexistent/git"_qs}};
+        const CommandRunner noGit{{.git = u"/nonexistent/git"_s}};
         const auto plain = RepoViewModel::create(
             folder.path(), nullptr, {noGit, m_bench.queue, m_bench.terminal, m_bench.store});
         refreshAll({plain});
@@ -114,18 +114,18 @@ private Q_SLOTS:
         const auto watched = m_bench.record(repository.dir());
         QStringList loading;
         connect(watched.get(), &RepoViewModel::isLoadingChanged, watched.get(),
-                [&] { loading += watched->isLoading() ? u"on"_qs : u"off"_qs; });
-        QCOMPARE(settled(*watched), u"main: clean"_qs);
+                [&] { loading += watched->isLoading() ? u"on"_s : u"off"_s; });
+        QCOMPARE(settled(*watched), u"main: clean"_s);
         QVERIFY(watched->isMainBranch());
 
-        repository.run({u"git checkout -q -b Main; touch n"_qs});
+        repository.run({u"git checkout -q -b Main; touch n"_s});
         refreshAll({watched});
-        QTRY_COMPARE(watched->statusString(), u"1\u00a0untracked"_qs);
-        QTRY_COMPARE(watched->branchString(), u"Main"_qs);
+        QTRY_COMPARE(watched->statusString(), u"1\u00a0untracked"_s);
+        QTRY_COMPARE(watched->branchString(), u"Main"_s);
         QVERIFY(!watched->isMainBranch());
-        QCOMPARE(loading, (QStringList{u"on"_qs, u"off"_qs, u"on"_qs, u"off"_qs}));
+        QCOMPARE(loading, (QStringList{u"on"_s, u"off"_s, u"on"_s, u"off"_s}));
 
-        repository.run({u"rm -rf .git"_qs});
+        repository.run({u"rm -rf .git"_s});
         refreshAll({watched});
         QTRY_COMPARE(watched->branchString(), QString());
         QTRY_VERIFY(!watched->statusString());
@@ -137,9 +137,9 @@ private:
     QString settled(const RepoViewModel& record)
     {
         if (!QTest::qWaitFor([&] { return record.gitStatus() && record.branchString(); }, 10000))
-            return u"never settled"_qs;
-        return record.branchString().value() + u": "_qs +
-               record.statusString().value_or(u"clean"_qs).replace(QChar::Nbsp, u' ');
+            return u"never settled"_s;
+        return record.branchString().value() + u": "_s +
+               record.statusString().value_or(u"clean"_s).replace(QChar::Nbsp, u' ');
     }
 
     Workbench m_bench;

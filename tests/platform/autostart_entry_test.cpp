@@ -14,16 +14,16 @@ class AutostartEntryTest : public QObject
 private Q_SLOTS:
     void anyPathIsStarted()
     {
-        const QString program = m_root.filePath(u"a \"b\" 'c' $HOME `d` \\s \\\\ \n;&é/run"_qs);
+        const QString program = m_root.filePath(u"a \"b\" 'c' $HOME `d` \\s \\\\ \n;&é/run"_s);
         writeFile(program, "#!/bin/sh\ntouch \"$0.started\"\n");
         QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
-        const QString file = m_root.filePath(u"new/x.y.Helper.desktop"_qs);
+        const QString file = m_root.filePath(u"new/x.y.Helper.desktop"_s);
         writeFile(file, "[Desktop Entry]\nHidden=true\n");
-        const AutostartEntry entry(m_root.filePath(u"new"_qs), m_name, program);
+        const AutostartEntry entry(m_root.filePath(u"new"_s), m_name, program);
         QVERIFY(entry.write());
         const QDateTime written = QFileInfo(file).fileTime(QFile::FileMetadataChangeTime);
-        QCOMPARE(QProcess::execute(u"gio"_qs, {u"launch"_qs, file}), 0);
-        QTRY_VERIFY(QFile::exists(program + u".started"_qs));
+        QCOMPARE(QProcess::execute(u"gio"_s, {u"launch"_s, file}), 0);
+        QTRY_VERIFY(QFile::exists(program + u".started"_s));
 
         QVERIFY(entry.write());
         QCOMPARE(QFileInfo(file).fileTime(QFile::FileMetadataChangeTime), written);
@@ -36,12 +36,12 @@ private Q_SLOTS:
     {
         const auto row = table<QString, QString>("folder", "program");
         // What a device would be to root, a pipe is to this test.
-        const QString masked = m_root.filePath(u"masked"_qs);
+        const QString masked = m_root.filePath(u"masked"_s);
         QVERIFY(QDir().mkpath(masked));
-        QCOMPARE(::mkfifo(QFile::encodeName(masked + u"/pipe"_qs).constData(), 0600), 0);
-        QVERIFY(QFile::link(u"pipe"_qs, masked + u"/x.y.Helper.desktop"_qs));
-        row("masked", masked, u"/bin/sh"_qs);
-        row("not writable", u"/proc/autostart"_qs, u"/bin/sh"_qs);
+        QCOMPARE(::mkfifo(QFile::encodeName(masked + u"/pipe"_s).constData(), 0600), 0);
+        QVERIFY(QFile::link(u"pipe"_s, masked + u"/x.y.Helper.desktop"_s));
+        row("masked", masked, u"/bin/sh"_s);
+        row("not writable", u"/proc/autostart"_s, u"/bin/sh"_s);
         row("no program", m_root.path(), m_root.path());
     }
 
@@ -54,7 +54,7 @@ private Q_SLOTS:
 
 private:
     const QTemporaryDir m_root;
-    const QString m_name = u"x.y.Helper"_qs;
+    const QString m_name = u"x.y.Helper"_s;
 };
 
 TARNWICK_TEST(AutostartEntryTest)

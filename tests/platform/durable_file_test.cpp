@@ -13,11 +13,11 @@ private Q_SLOTS:
     void onlyTheOwnerMayReadWhatALinkLeadsTo()
     {
         const QTemporaryDir folder;
-        QFile file(folder.filePath(u"new/deep/file"_qs));
-        const QString link = folder.filePath(u"link"_qs);
+        QFile file(folder.filePath(u"new/deep/file"_s));
+        const QString link = folder.filePath(u"link"_s);
         QVERIFY(replaceFileDurably(file.fileName(), "one"));
         QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::ReadOther));
-        QVERIFY(QFile::link(u"new/deep/file"_qs, link));
+        QVERIFY(QFile::link(u"new/deep/file"_s, link));
         QVERIFY(replaceFileDurably(link, "two"));
         QVERIFY(QFileInfo(link).isSymLink());
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -25,7 +25,7 @@ private Q_SLOTS:
         const auto others =
             QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
         QVERIFY(!(file.permissions() & others));
-        QVERIFY(!(QFile::permissions(folder.filePath(u"new"_qs)) & others));
+        QVERIFY(!(QFile::permissions(folder.filePath(u"new"_s)) & others));
     }
 };
 

@@ -48,16 +48,16 @@ private Q_SLOTS:
     {
         const auto row = table<QString, QChar, QString, QString, QString>(
             "before", "dragged", "entered", "after", "marked");
-        row("third of five to the first", u"abcde"_qs, u'c', u"a"_qs, u"cabde"_qs, u"c"_qs);
-        row("first of three to the third", u"abc"_qs, u'a', u"c"_qs, u"bca"_qs, u"a"_qs);
-        row("to the neighbour and back", u"abc"_qs, u'a', u"bab"_qs, u"abc"_qs, u"a"_qs);
-        row("down row by row", u"abcd"_qs, u'a', u"bacad"_qs, u"bcda"_qs, u"a"_qs);
-        row("over its own row", u"abc"_qs, u'b', u"bb"_qs, u"abc"_qs, u""_qs);
-        row("not left at all", u"abc"_qs, u'b', u""_qs, u"abc"_qs, u""_qs);
-        row("of equals the first moves", u"aba"_qs, u'a', u"b"_qs, u"baa"_qs, u"aa"_qs);
-        row("of equals the first is gone to", u"abb"_qs, u'a', u"b"_qs, u"bab"_qs, u"a"_qs);
-        row("its item is gone", u"abc"_qs, u'x', u"b"_qs, u"abc"_qs, u""_qs);
-        row("the row's item is gone", u"abc"_qs, u'a', u"x"_qs, u"abc"_qs, u""_qs);
+        row("third of five to the first", u"abcde"_s, u'c', u"a"_s, u"cabde"_s, u"c"_s);
+        row("first of three to the third", u"abc"_s, u'a', u"c"_s, u"bca"_s, u"a"_s);
+        row("to the neighbour and back", u"abc"_s, u'a', u"bab"_s, u"abc"_s, u"a"_s);
+        row("down row by row", u"abcd"_s, u'a', u"bacad"_s, u"bcda"_s, u"a"_s);
+        row("over its own row", u"abc"_s, u'b', u"bb"_s, u"abc"_s, u""_s);
+        row("not left at all", u"abc"_s, u'b', u""_s, u"abc"_s, u""_s);
+        row("of equals the first moves", u"aba"_s, u'a', u"b"_s, u"baa"_s, u"aa"_s);
+        row("of equals the first is gone to", u"abb"_s, u'a', u"b"_s, u"bab"_s, u"a"_s);
+        row("its item is gone", u"abc"_s, u'x', u"b"_s, u"abc"_s, u""_s);
+        row("the row's item is gone", u"abc"_s, u'a', u"x"_s, u"abc"_s, u""_s);
     }
 
     void drags()
@@ -92,11 +92,11 @@ private Q_SLOTS:
 
     void marksWhatIsDraggedNow()
     {
-        List list(u"abc"_qs);
+        List list(u"abc"_s);
         list.reorder.onDrag(u'a');
         list.reorder.dropDelegate(u'b')->dropEntered();
         list.reorder.onDrag(u'c');
-        QCOMPARE(list.marked(), u"c"_qs);
+        QCOMPARE(list.marked(), u"c"_s);
         list.isAllowed = false;
         QCOMPARE(list.marked(), QString());
         QVERIFY(!list.reorder.dropDelegate(u'b'));

@@ -26,7 +26,7 @@ private Q_SLOTS:
         m_view.reset();
         m_other.reset();
         m_fixture = std::make_unique<SettingsFixture>();
-        m_fixture->bench.store.setObject(u"/n/a\n/n/b\n/n/c\n/n/b"_qs, u"repos"_qs);
+        m_fixture->bench.store.setObject(u"/n/a\n/n/b\n/n/c\n/n/b"_s, u"repos"_s);
         m_fixture->mgr.setModels(m_fixture->mgr.loadRepos());
         m_other = m_fixture->view();
         m_view = m_fixture->view();
@@ -41,28 +41,28 @@ private Q_SLOTS:
     {
         auto* const path = m_view->findChild<QLineEdit*>();
         auto* const add = row(0)->window()->findChildren<QPushButton*>().first();
-        QCOMPARE(add->text(), u"add repo"_qs);
+        QCOMPARE(add->text(), u"add repo"_s);
         for (const auto* text : {u" ~/x ", u"", u""}) {
             path->setText(QString::fromUtf16(text));
             QTest::keyClick(path, Qt::Key_Return);
             add->click();
             QCOMPARE(path->text(), QString::fromUtf16(text));
         }
-        QCOMPARE(m_fixture->stored().join(u','), u",, ~/x ,/n/a,/n/b,/n/c,/n/b"_qs);
+        QCOMPARE(m_fixture->stored().join(u','), u",, ~/x ,/n/a,/n/b,/n/c,/n/b"_s);
         QCOMPARE(m_column->rows().size(), 7);
         QCOMPARE(shown(*m_other), shown(*m_view));
     }
 
     void removesAllOfADirectory()
     {
-        QCOMPARE(row(1)->findChild<QToolButton*>()->accessibleName(), u"Remove b"_qs);
-        answer(1, u"Keep it"_qs);
+        QCOMPARE(row(1)->findChild<QToolButton*>()->accessibleName(), u"Remove b"_s);
+        answer(1, u"Keep it"_s);
         answer(1, {});
         QCOMPARE(m_fixture->stored().size(), 4);
-        answer(3, u"Remove it"_qs);
-        QCOMPARE(m_fixture->stored(), (QStringList{u"/n/a"_qs, u"/n/c"_qs}));
-        QCOMPARE(shown(*m_view), u"a c"_qs);
-        QCOMPARE(shown(*m_other), u"a c"_qs);
+        answer(3, u"Remove it"_s);
+        QCOMPARE(m_fixture->stored(), (QStringList{u"/n/a"_s, u"/n/c"_s}));
+        QCOMPARE(shown(*m_view), u"a c"_s);
+        QCOMPARE(shown(*m_other), u"a c"_s);
     }
 
     void movesByKeyboard()
@@ -71,8 +71,8 @@ private Q_SLOTS:
         c->setFocus();
         for (int i = 0; i < 3; ++i)
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up, Qt::AltModifier);
-        QCOMPARE(shown(*m_other), u"c a b b"_qs);
-        QCOMPARE(m_fixture->stored().first(), u"/n/c"_qs);
+        QCOMPARE(shown(*m_other), u"c a b b"_s);
+        QCOMPARE(m_fixture->stored().first(), u"/n/c"_s);
         QCOMPARE(QApplication::focusWidget(), c);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
         QCOMPARE(QApplication::focusWidget(), row(1));
@@ -86,18 +86,18 @@ private Q_SLOTS:
     {
         QVERIFY(drag<QDragEnterEvent>(0));
         QVERIFY(drag<QDragMoveEvent>(1));
-        QCOMPARE(shown(*m_view), u"a b c b"_qs);
+        QCOMPARE(shown(*m_view), u"a b c b"_s);
 
         row(2)->dragSource()();
         QVERIFY(drag<QDragMoveEvent>(0));
         QVERIFY(!drag<QDragMoveEvent>(5));
-        QCOMPARE(shown(*m_other), u"c a b b"_qs);
+        QCOMPARE(shown(*m_other), u"c a b b"_s);
         QVERIFY(!drag<QDropEvent>(5));
-        QCOMPARE(m_fixture->stored().first(), u"/n/a"_qs);
+        QCOMPARE(m_fixture->stored().first(), u"/n/a"_s);
         QVERIFY(drag<QDragEnterEvent>(3));
         QVERIFY(drag<QDropEvent>(3));
         QCOMPARE(m_fixture->stored(),
-                 (QStringList{u"/n/c"_qs, u"/n/a"_qs, u"/n/b"_qs, u"/n/b"_qs}));
+                 (QStringList{u"/n/c"_s, u"/n/a"_s, u"/n/b"_s, u"/n/b"_s}));
     }
 
 private:
@@ -109,7 +109,7 @@ private:
     {
         QStringList names;
         for (const auto* row : view.findChild<ReorderableColumn*>()->rows())
-            names += row->accessibleName().section(u"/"_qs, -1);
+            names += row->accessibleName().section(u"/"_s, -1);
         return names.join(u' ');
     }
 
@@ -117,7 +117,7 @@ private:
     {
         row(index)->findChild<QToolButton*>()->click();
         auto* const alert = m_view->findChild<QMessageBox*>();
-        QCOMPARE(alert->text(), u"Please confirm the removal"_qs);
+        QCOMPARE(alert->text(), u"Please confirm the removal"_s);
         QVERIFY(alert->isModal());
         if (button.isEmpty())
             QTest::keyClick(alert, Qt::Key_Escape);
@@ -132,7 +132,7 @@ private:
     bool drag(int overRow) const
     {
         QMimeData text;
-        text.setText(u"payload"_qs);
+        text.setText(u"payload"_s);
         const QPoint position(100, overRow * row(0)->height() + row(0)->height() / 2);
         Event event(position, Qt::MoveAction | Qt::CopyAction, &text, Qt::LeftButton,
                     Qt::NoModifier);

@@ -6,6 +6,7 @@
 #include "platform/plain_application_folder.h"
 #include "settings/settings_host.h"
 #include "settings/settings_view.h"
+#include "support/table.h"
 #include "support/workbench.h"
 
 namespace tarnwick::test {
@@ -32,16 +33,16 @@ struct SettingsFixture
     }
     [[nodiscard]] QStringList stored() const
     {
-        return bench.store.stringForKey(u"repos"_qs).value_or(QString()).split(u'\n');
+        return bench.store.stringForKey(u"repos"_s).value_or(QString()).split(u'\n');
     }
 
     Workbench bench;
     RecordingHost host;
     RepoManager mgr{bench.store, bench.services(), [] { return std::make_shared<NoDelegate>(); }};
     BundleInfo bundle{
-        {{u"CFBundleVersion"_qs, u"42"_qs}, {u"CFBundleShortVersionString"_qs, u"1.2"_qs}}};
-    PlainApplicationFolder system{bench.folder.filePath(u"system/"_qs)};
-    PlainApplicationFolder user{bench.folder.filePath(u"user/"_qs)};
+        {{u"CFBundleVersion"_s, u"42"_s}, {u"CFBundleShortVersionString"_s, u"1.2"_s}}};
+    PlainApplicationFolder system{bench.folder.filePath(u"system/"_s)};
+    PlainApplicationFolder user{bench.folder.filePath(u"user/"_s)};
 };
 
 } // namespace tarnwick::test

@@ -33,26 +33,26 @@ private Q_SLOTS:
         SettingsFixture f;
         const auto one = f.view();
         const auto other = f.view();
-        const QString launch = u"Launch on startup"_qs;
-        const QString icons = u"Use only icons in repo statuses"_qs;
+        const QString launch = u"Launch on startup"_s;
+        const QString icons = u"Use only icons in repo statuses"_s;
         QVERIFY(buttonNamed(*one, launch)->isChecked());
-        QVERIFY(buttonNamed(*one, u"Show clean repo status"_qs)->isChecked());
+        QVERIFY(buttonNamed(*one, u"Show clean repo status"_s)->isChecked());
         QVERIFY(!buttonNamed(*one, icons)->isChecked());
         QVERIFY(
-            !buttonNamed(*one, u"Refresh repos automatically when menu is opened"_qs)->isChecked());
+            !buttonNamed(*one, u"Refresh repos automatically when menu is opened"_s)->isChecked());
         const auto labels = one->findChildren<QLabel*>();
         QVERIFY(std::ranges::any_of(labels, [](auto* l) { return l->text() == u"version 42"; }));
 
-        f.bench.store.setBool(true, u"onyIcons"_qs);
+        f.bench.store.setBool(true, u"onyIcons"_s);
         QVERIFY(buttonNamed(*one, icons)->isChecked());
         buttonNamed(*one, icons)->click();
         QVERIFY(!buttonNamed(*other, icons)->isChecked());
-        QCOMPARE(f.bench.store.dictionaryRepresentation(), (QVariantMap{{u"onyIcons"_qs, false}}));
+        QCOMPARE(f.bench.store.dictionaryRepresentation(), (QVariantMap{{u"onyIcons"_s, false}}));
         QCOMPARE(f.host.logins, QList<bool>());
 
         buttonNamed(*one, launch)->click();
         QVERIFY(!buttonNamed(*other, launch)->isChecked());
-        f.bench.store.setBool(false, u"launchOnStartup"_qs);
+        f.bench.store.setBool(false, u"launchOnStartup"_s);
         buttonNamed(*other, launch)->click();
         QCOMPARE(f.host.logins, (QList<bool>{false, true}));
         QCOMPARE(f.host.rebuilds, 0);
@@ -68,7 +68,7 @@ private Q_SLOTS:
         other->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(other.get()));
         QCOMPARE(other->size(), QSize(600, 600));
-        buttonNamed(*other, u"Save and close settings"_qs)->click();
+        buttonNamed(*other, u"Save and close settings"_s)->click();
         QCOMPARE(f.host.rebuilds, 1);
         QVERIFY(!other->isVisible());
         QVERIFY(one->isVisible());
@@ -77,13 +77,13 @@ private Q_SLOTS:
     void listsApplications_data()
     {
         const auto row = table<QString, QString, QString>("system", "user", "expected");
-        row("by character code, applications only", u"b.app notes.txt Utilities A.app C.APP"_qs,
-            u"."_qs, u"A.app b.app"_qs);
-        row("one part after the other, doubles too", u"z.app m.app"_qs, u"m.app a.app"_qs,
-            u"m.app z.app a.app m.app"_qs);
-        row("unreadable", u"a.app"_qs, {}, u"a.app Unable to read %1/user/*.app"_qs);
+        row("by character code, applications only", u"b.app notes.txt Utilities A.app C.APP"_s,
+            u"."_s, u"A.app b.app"_s);
+        row("one part after the other, doubles too", u"z.app m.app"_s, u"m.app a.app"_s,
+            u"m.app z.app a.app m.app"_s);
+        row("unreadable", u"a.app"_s, {}, u"a.app Unable to read %1/user/*.app"_s);
         row("both unreadable", {}, {},
-            u"Unable to read %1/system/*.app Unable to read %1/user/*.app"_qs);
+            u"Unable to read %1/system/*.app Unable to read %1/user/*.app"_s);
     }
 
     void listsApplications()
@@ -98,22 +98,22 @@ private Q_SLOTS:
                 QVERIFY(QDir().mkpath(path + name));
         }
         QCOMPARE(AppList(f.system, f.user).list().join(u' '),
-                 expected.replace(u"%1"_qs, f.bench.folder.path()));
+                 expected.replace(u"%1"_s, f.bench.folder.path()));
     }
 
     void switchesApplications()
     {
         SettingsFixture f;
-        const QString name = u"R & D.app"_qs;
-        QVERIFY(QDir(f.bench.folder.path()).mkpath(u"user/"_qs + name));
-        f.bench.store.setBool(true, u"showinapps___"_qs + name);
+        const QString name = u"R & D.app"_s;
+        QVERIFY(QDir(f.bench.folder.path()).mkpath(u"user/"_s + name));
+        f.bench.store.setBool(true, u"showinapps___"_s + name);
         const auto view = f.view();
         auto* const box = buttonNamed(*view, name);
         QVERIFY(box && box->isChecked());
         box->click();
-        QVERIFY(!f.bench.store.boolForKey(u"showinapps___"_qs + name));
+        QVERIFY(!f.bench.store.boolForKey(u"showinapps___"_s + name));
         QVERIFY(!appIcon(name, f.system, f.user).isNull());
-        QVERIFY(appIcon(u"None.app"_qs, f.system, f.user).isNull());
+        QVERIFY(appIcon(u"None.app"_s, f.system, f.user).isNull());
     }
 };
 

@@ -42,12 +42,12 @@ private Q_SLOTS:
     {
         Platform platform;
         platform.trayHost = std::make_unique<NoTrayHost>();
-        platform.systemApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_qs);
-        platform.userApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_qs);
-        platform.bundleInfo = {{u"CFBundleVersion"_qs, u"42"_qs}};
+        platform.systemApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_s);
+        platform.userApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_s);
+        platform.bundleInfo = {{u"CFBundleVersion"_s, u"42"_s}};
         platform.loginServices = std::make_unique<RecordingLoginServices>();
         Workbench bench;
-        bench.store.setObject(u"/nonexistent/a"_qs, u"repos"_qs);
+        bench.store.setObject(u"/nonexistent/a"_s, u"repos"_s);
         AppDelegate delegate(platform, bench.store, bench.services());
         QVERIFY(!AppDelegate::shared());
         delegate.applicationDidFinishLaunching();
@@ -55,7 +55,7 @@ private Q_SLOTS:
 
         Q_EMIT delegate.statusBarItem().triggered(QRect(600, 0, 24, 24));
         QTRY_COMPARE(menusVisible(), 1);
-        delegate.repoManager().add(u"/nonexistent/b"_qs, nullptr);
+        delegate.repoManager().add(u"/nonexistent/b"_s, nullptr);
         QCOMPARE(delegate.appMenu().models().size(), 1);
         rebuildMenu();
         QCOMPARE(delegate.appMenu().models(), delegate.repoManager().models());

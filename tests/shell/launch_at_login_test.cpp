@@ -18,10 +18,10 @@ private Q_SLOTS:
     {
         const auto row = table<QVariant, QStringList, int, QStringList>("stored", "running",
                                                                         "refusals", "calls");
-        const QStringList others{u":1.1"_qs, m_helper.toLower(), m_helper + u'2'};
-        const QStringList two{m_helper, u"x.y.App"_qs, m_helper};
-        const QString post = u"post killTarnwickLauncher x.y.App"_qs;
-        const QString set = u"register "_qs + m_helper;
+        const QStringList others{u":1.1"_s, m_helper.toLower(), m_helper + u'2'};
+        const QStringList two{m_helper, u"x.y.App"_s, m_helper};
+        const QString post = u"post killTarnwickLauncher x.y.App"_s;
+        const QString set = u"register "_s + m_helper;
         row("first", {}, others, 0, {set});
         row("refused", {}, others, 1, {set, set});
         row("refused twice", true, others, 2, {set, set});
@@ -35,18 +35,18 @@ private Q_SLOTS:
         QFETCH(QStringList, running);
         QFETCH(int, refusals);
         Workbench bench;
-        bench.store.setBool(true, u"another"_qs);
+        bench.store.setBool(true, u"another"_s);
         if (stored.isValid())
-            bench.store.setBool(stored.toBool(), u"launchOnStartup"_qs);
+            bench.store.setBool(stored.toBool(), u"launchOnStartup"_s);
         RecordingLoginServices services;
         services.running = running;
         services.refusals = refusals;
         const auto start = [&](const QJsonObject& bundle) {
             LaunchAtLogin(services, bench.store, BundleInfo(bundle), m_helper).startLaunchAtLogin();
         };
-        start({{u"CFBundleIdentifier"_qs, u"x.y.App"_qs}});
+        start({{u"CFBundleIdentifier"_s, u"x.y.App"_s}});
         QTEST(services.calls, "calls");
-        QCOMPARE(bench.store.boolForKey(u"launchOnStartup"_qs),
+        QCOMPARE(bench.store.boolForKey(u"launchOnStartup"_s),
                  !stored.isValid() || stored.toBool());
         QCOMPARE(stopsProcess([&] { start({}); }), running.contains(m_helper));
     }
@@ -67,8 +67,8 @@ private Q_SLOTS:
         close(terminal);
         QVERIFY(printed.seek(0));
 
-        const QString off = u"unregister "_qs + m_helper;
-        QCOMPARE(services.calls, (QStringList{off, off, u"register "_qs + m_helper}));
+        const QString off = u"unregister "_s + m_helper;
+        QCOMPARE(services.calls, (QStringList{off, off, u"register "_s + m_helper}));
         QCOMPARE(printed.readAll(), QByteArray("1. Set launch to false, result: false\n"
                                                "2. Set launch to false, result: false\n"
                                                "1. Set launch to true, result: true\n"));
@@ -76,7 +76,7 @@ private Q_SLOTS:
     }
 
 private:
-    const QString m_helper = u"x.y.TarnwickLauncher"_qs;
+    const QString m_helper = u"x.y.TarnwickLauncher"_s;
 };
 
 TARNWICK_TEST(LaunchAtLoginTest)

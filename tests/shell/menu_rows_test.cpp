@@ -37,17 +37,17 @@ struct Row
     explicit Row(StatusMenu& menu)
         : panel(new StatusMenu(&menu))
     {
-        view->setText(u"R&D, main"_qs);
+        view->setText(u"R&D, main"_s);
         panel->addHostedRow(host({first, last}, 300));
         menu.addHostedRow(view)->setMenu(panel);
         menu.addSeparator();
     }
     [[nodiscard]] QPoint blank() const { return view->mapToGlobal(QPoint(3, 3)); }
 
-    QLabel* label = new QLabel(u"main"_qs);
-    QPushButton* button = new QPushButton(u"Refresh"_qs);
-    QPushButton* first = new QPushButton(u"Open"_qs);
-    QPushButton* last = new QPushButton(u"Push"_qs);
+    QLabel* label = new QLabel(u"main"_s);
+    QPushButton* button = new QPushButton(u"Refresh"_s);
+    QPushButton* first = new QPushButton(u"Open"_s);
+    QPushButton* last = new QPushButton(u"Push"_s);
     HostingView* view = host({label, button}, 340);
     StatusMenu* panel;
 };
@@ -70,7 +70,7 @@ private Q_SLOTS:
     void keysAreAskedForOncePerShowing()
     {
         CountingWindow window;
-        new HostingView(new QLabel(u"text"_qs), &window);
+        new HostingView(new QLabel(u"text"_s), &window);
         for (const int shown : {1, 2}) {
             window.show();
             QVERIFY(QTest::qWaitForWindowExposed(&window));
@@ -112,11 +112,11 @@ private Q_SLOTS:
     {
         open(3);
         const QRect before = m_menu->geometry();
-        m_rows[0].label->setText(u"one\ntwo\nthree"_qs);
+        m_rows[0].label->setText(u"one\ntwo\nthree"_s);
         QTRY_VERIFY(m_menu->height() > before.height());
         QCOMPARE(m_menu->pos(), before.topLeft());
         QVERIFY(m_rows[1].view->y() > m_rows[0].view->geometry().bottom());
-        m_rows[0].label->setText(u"one"_qs);
+        m_rows[0].label->setText(u"one"_s);
         QTRY_COMPARE(m_menu->geometry(), before);
     }
 
@@ -139,7 +139,7 @@ private Q_SLOTS:
         turnWheel(-10);
         const int y = m_rows[20].view->y();
         QVERIFY(m_rows[0].view->geometry().bottom() < 0);
-        m_rows[90].label->setText(u"one\ntwo\nthree"_qs);
+        m_rows[90].label->setText(u"one\ntwo\nthree"_s);
         QTRY_VERIFY(m_rows[90].view->height() > m_rows[20].view->height());
         QCOMPARE(m_rows[20].view->y(), y);
 
@@ -196,11 +196,11 @@ private Q_SLOTS:
         open(3);
         QTest::qWait(0);
         m_menu->installEventFilter(&watch);
-        m_rows[1].view->setText(u"R&D, work"_qs);
-        m_rows[1].label->setText(u"work"_qs);
+        m_rows[1].view->setText(u"R&D, work"_s);
+        m_rows[1].label->setText(u"work"_s);
         QTRY_VERIFY(!watch.painted.isEmpty());
         QVERIFY(m_rows[1].view->geometry().contains(watch.painted.boundingRect()));
-        QCOMPARE(m_menu->actionOf(*m_rows[1].view)->text(), u"R&&D, work"_qs);
+        QCOMPARE(m_menu->actionOf(*m_rows[1].view)->text(), u"R&&D, work"_s);
     }
 
 private:

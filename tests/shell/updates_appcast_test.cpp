@@ -16,18 +16,18 @@ private Q_SLOTS:
     void versions_data()
     {
         const auto row = table<QString, QString, bool>("older", "newer", "areEqual");
-        row("number", u"1.9"_qs, u"1.10"_qs, false);
-        row("shorter", u"1.9.9"_qs, u"2"_qs, false);
-        row("beta", u"1.0b2"_qs, u"1.0"_qs, false);
-        row("number of beta", u"1.0b2"_qs, u"1.0b10"_qs, false);
-        row("letters", u"1.0-beta3"_qs, u"1.0-rc1"_qs, false);
-        row("beta of an older", u"1.0b2"_qs, u"1.0.1"_qs, false);
-        row("longer", u"1.0"_qs, u"1.0.0.1"_qs, false);
-        row("huge", u"99999999999999999998"_qs, u"99999999999999999999"_qs, false);
-        row("empty", {}, u"0.1"_qs, false);
-        row("zeros", u"1"_qs, u"1.0.0"_qs, true);
-        row("leading zero", u"1.02"_qs, u"1.2"_qs, true);
-        row("separators", u"1.0B2"_qs, u"1-0_b2"_qs, true);
+        row("number", u"1.9"_s, u"1.10"_s, false);
+        row("shorter", u"1.9.9"_s, u"2"_s, false);
+        row("beta", u"1.0b2"_s, u"1.0"_s, false);
+        row("number of beta", u"1.0b2"_s, u"1.0b10"_s, false);
+        row("letters", u"1.0-beta3"_s, u"1.0-rc1"_s, false);
+        row("beta of an older", u"1.0b2"_s, u"1.0.1"_s, false);
+        row("longer", u"1.0"_s, u"1.0.0.1"_s, false);
+        row("huge", u"99999999999999999998"_s, u"99999999999999999999"_s, false);
+        row("empty", {}, u"0.1"_s, false);
+        row("zeros", u"1"_s, u"1.0.0"_s, true);
+        row("leading zero", u"1.02"_s, u"1.2"_s, true);
+        row("separators", u"1.0B2"_s, u"1-0_b2"_s, true);
     }
 
     void versions()
@@ -85,8 +85,8 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, feed);
         QByteArray found = "no feed";
-        if (const auto items = parseAppcast(feed, u"linux"_qs)) {
-            const auto newest = newestItem(*items, u"8"_qs);
+        if (const auto items = parseAppcast(feed, u"linux"_s)) {
+            const auto newest = newestItem(*items, u"8"_s);
             found = newest ? newest->version.toLatin1() : "none";
         }
         QTEST(found, "newest");
@@ -101,14 +101,14 @@ private Q_SLOTS:
               <enclosure url="https://example.org/a.deb" length="12" s:version="3"
                          s:shortVersionString="1.2" s:edSignature="c2ln" type="x/y"/>
             </item></channel></rss>)",
-                                        u"linux"_qs);
+                                        u"linux"_s);
         QVERIFY(items && items->size() == 1);
         const AppcastItem& item = items->first();
-        QCOMPARE(item.name(), u"1.2"_qs);
-        QCOMPARE(item.notes, u"a < b"_qs);
+        QCOMPARE(item.name(), u"1.2"_s);
+        QCOMPARE(item.notes, u"a < b"_s);
         QVERIFY(item.notesArePlainText);
-        QCOMPARE(item.notesLink, QUrl(u"https://example.org/notes"_qs));
-        QCOMPARE(item.url, QUrl(u"https://example.org/a.deb"_qs));
+        QCOMPARE(item.notesLink, QUrl(u"https://example.org/notes"_s));
+        QCOMPARE(item.url, QUrl(u"https://example.org/a.deb"_s));
         QCOMPARE(item.length, 12);
         QCOMPARE(item.signature, "c2ln");
     }
@@ -128,21 +128,21 @@ private Q_SLOTS:
     void fileNames()
     {
         const auto nameOf = [](const QString& path) {
-            return safeFileName(QUrl(u"https://example.org/"_qs + path));
+            return safeFileName(QUrl(u"https://example.org/"_s + path));
         };
-        QCOMPARE(nameOf(u"a/b/Tarnwick%201.3.deb?x=/y#/z"_qs), u"Tarnwick 1.3.deb"_qs);
-        QCOMPARE(nameOf(u"a/..%2F..%2F.bashrc"_qs), u"bashrc"_qs);
-        QCOMPARE(nameOf(u"..%5C..%5Cautorun.inf"_qs), u"autorun.inf"_qs);
-        QCOMPARE(nameOf(u"%2e%2e"_qs), u"Tarnwick update"_qs);
-        QCOMPARE(nameOf(u"a/"_qs), u"Tarnwick update"_qs);
-        QCOMPARE(nameOf(u"a%0A%00b%7F%E2%80%AEc.deb"_qs), u"abc.deb"_qs);
+        QCOMPARE(nameOf(u"a/b/Tarnwick%201.3.deb?x=/y#/z"_s), u"Tarnwick 1.3.deb"_s);
+        QCOMPARE(nameOf(u"a/..%2F..%2F.bashrc"_s), u"bashrc"_s);
+        QCOMPARE(nameOf(u"..%5C..%5Cautorun.inf"_s), u"autorun.inf"_s);
+        QCOMPARE(nameOf(u"%2e%2e"_s), u"Tarnwick update"_s);
+        QCOMPARE(nameOf(u"a/"_s), u"Tarnwick update"_s);
+        QCOMPARE(nameOf(u"a%0A%00b%7F%E2%80%AEc.deb"_s), u"abc.deb"_s);
 
         const QTemporaryDir folder;
-        const QString name = nameOf(QString(300, u'\u00e4') + u".tar.gz"_qs);
-        QVERIFY(name.endsWith(u"\u00e4.tar.gz"_qs));
+        const QString name = nameOf(QString(300, u'\u00e4') + u".tar.gz"_s);
+        QVERIFY(name.endsWith(u"\u00e4.tar.gz"_s));
         writeFile(folder.filePath(name), "in use");
-        QVERIFY(QFile::link(u"/nonexistent"_qs, unusedPath(folder.path(), name)));
-        QVERIFY(unusedPath(folder.path(), name).endsWith(u"\u00e4 (3).tar.gz"_qs));
+        QVERIFY(QFile::link(u"/nonexistent"_s, unusedPath(folder.path(), name)));
+        QVERIFY(unusedPath(folder.path(), name).endsWith(u"\u00e4 (3).tar.gz"_s));
     }
 };
 

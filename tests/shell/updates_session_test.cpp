@@ -21,8 +21,8 @@ private Q_SLOTS:
     void init()
     {
         m_folder.emplace();
-        m_settings = {m_server.url("/feed"), m_update.publicKey(), u"9"_qs,
-                      m_folder->filePath(u"downloads"_qs)};
+        m_settings = {m_server.url("/feed"), m_update.publicKey(), u"9"_s,
+                      m_folder->filePath(u"downloads"_s)};
     }
 
     void aGoodUpdateIsSavedAndOpened()
@@ -30,7 +30,7 @@ private Q_SLOTS:
         m_server.answer("/feed", LoopbackServer::bytes(m_update.feed("pkg/Tarnwick%201.3.deb")));
         m_server.answer("/pkg/Tarnwick%201.3.deb", LoopbackServer::redirect("/elsewhere"));
         m_server.answer("/elsewhere", LoopbackServer::bytes(m_update.content()));
-        QDesktopServices::setUrlHandler(u"file"_qs, this, "open");
+        QDesktopServices::setUrlHandler(u"file"_s, this, "open");
 
         UpdateSession session(m_settings);
         session.start();
@@ -38,9 +38,9 @@ private Q_SLOTS:
         QVERIFY(saved().isEmpty());
         session.download();
         QTRY_COMPARE(session.state(), State::Saved);
-        QDesktopServices::unsetUrlHandler(u"file"_qs);
+        QDesktopServices::unsetUrlHandler(u"file"_s);
 
-        QCOMPARE(saved(), QStringList(u"Tarnwick 1.3.deb"_qs));
+        QCOMPARE(saved(), QStringList(u"Tarnwick 1.3.deb"_s));
         QCOMPARE(m_opened, QStringList(session.savedPath()));
         QFile file(session.savedPath());
         QVERIFY(file.open(QIODevice::ReadOnly));
@@ -53,7 +53,7 @@ private Q_SLOTS:
         QTRY_COMPARE(other.state(), State::Offering);
         other.download();
         QCOMPARE(other.state(), State::Failed);
-        QVERIFY2(other.error().contains(u"cannot be saved in"_qs), qPrintable(other.error()));
+        QVERIFY2(other.error().contains(u"cannot be saved in"_s), qPrintable(other.error()));
     }
 
     /// In each row the update is good but for one thing: another feed or key, or a part of the
@@ -63,26 +63,26 @@ private Q_SLOTS:
         const auto row = table<QByteArray, QByteArray, QByteArray, QByteArray, QString>(
             "feed", "publicKey", "written", "instead", "error");
         const QByteArray key = m_update.publicKey();
-        row("no feed", "/missing", key, {}, {}, u"refused the request (error 404)"_qs);
-        row("web page", "/html", key, {}, {}, u"cannot be read"_qs);
-        row("long feed", "/long", key, {}, {}, u"more than it should"_qs);
-        row("half a feed", "/broken", key, {}, {}, u"broke the connection off"_qs);
-        row("led astray", "/away", key, {}, {}, u"not secure: http://192.0.2.1"_qs);
-        row("led in circles", "/loop", key, {}, {}, u"without end"_qs);
-        row("no key", "/feed", {}, {}, {}, u"without the key"_qs);
-        row("short key", "/feed", key.mid(4), {}, {}, u"without the key"_qs);
+        row("no feed", "/missing", key, {}, {}, u"refused the request (error 404)"_s);
+        row("web page", "/html", key, {}, {}, u"cannot be read"_s);
+        row("long feed", "/long", key, {}, {}, u"more than it should"_s);
+        row("half a feed", "/broken", key, {}, {}, u"broke the connection off"_s);
+        row("led astray", "/away", key, {}, {}, u"not secure: http://192.0.2.1"_s);
+        row("led in circles", "/loop", key, {}, {}, u"without end"_s);
+        row("no key", "/feed", {}, {}, {}, u"without the key"_s);
+        row("short key", "/feed", key.mid(4), {}, {}, u"without the key"_s);
         const QByteArray length = "length=\"" + QByteArray::number(m_update.content().size());
-        row("unsigned", "/feed", key, m_update.signature(), {}, u"not signed"_qs);
-        row("no length", "/feed", key, length, "x=\"", u"size"_qs);
-        row("negative length", "/feed", key, length, "length=\"-1", u"size"_qs);
-        row("huge", "/feed", key, length, "length=\"2147483649", u"size"_qs);
+        row("unsigned", "/feed", key, m_update.signature(), {}, u"not signed"_s);
+        row("no length", "/feed", key, length, "x=\"", u"size"_s);
+        row("negative length", "/feed", key, length, "length=\"-1", u"size"_s);
+        row("huge", "/feed", key, length, "length=\"2147483649", u"size"_s);
         row("elsewhere", "/feed", key, "url=\"", "url=\"http://192.0.2.1/",
-            u"no secure address"_qs);
-        row("nowhere", "/feed", key, "url=", "x=", u"no secure address"_qs);
-        row("tampered", "/feed", key, "url=\"pkg", "url=\"tampered", u"damaged"_qs);
-        row("shorter", "/feed", key, "url=\"pkg", "url=\"shorter", u"damaged"_qs);
-        row("longer", "/feed", key, "url=\"pkg", "url=\"longer", u"more than it should"_qs);
-        row("half", "/feed", key, "url=\"pkg", "url=\"broken", u"broke the connection off"_qs);
+            u"no secure address"_s);
+        row("nowhere", "/feed", key, "url=", "x=", u"no secure address"_s);
+        row("tampered", "/feed", key, "url=\"pkg", "url=\"tampered", u"damaged"_s);
+        row("shorter", "/feed", key, "url=\"pkg", "url=\"shorter", u"damaged"_s);
+        row("longer", "/feed", key, "url=\"pkg", "url=\"longer", u"more than it should"_s);
+        row("half", "/feed", key, "url=\"pkg", "url=\"broken", u"broke the connection off"_s);
     }
 
     void failuresAreToldAndLeaveNothing()

@@ -39,7 +39,7 @@ void press(const QWidget& window, const QString& text)
         if (button->isVisible() && button->text() == text)
             return QTest::mouseClick(button, Qt::LeftButton);
     }
-    QFAIL(qPrintable(u"no button "_qs + text));
+    QFAIL(qPrintable(u"no button "_s + text));
 }
 
 } // namespace
@@ -51,7 +51,7 @@ class UpdatesWindowTest : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_settings = {m_server.url("/feed"), m_update.publicKey(), u"10"_qs, m_folder.path()};
+        m_settings = {m_server.url("/feed"), m_update.publicKey(), u"10"_s, m_folder.path()};
     }
 
     void oneCheckAtATime()
@@ -68,21 +68,21 @@ private Q_SLOTS:
         updater.checkForUpdates();
         QCOMPARE(windows().size(), 1);
         QVERIFY(!updater.canCheckForUpdates());
-        QTRY_VERIFY(shown(*windows().first()).contains(u"Tarnwick 10 is the newest version."_qs));
+        QTRY_VERIFY(shown(*windows().first()).contains(u"Tarnwick 10 is the newest version."_s));
         QTest::keyClick(windows().first(), Qt::Key_Escape);
         QTRY_VERIFY(updater.canCheckForUpdates());
         QCOMPARE(changes, QList<QVariantList>({{true}, {false}, {true}}));
 
         updater.checkForUpdates();
         controller.reset();
-        QTRY_VERIFY(shown(*windows().first()).contains(u"You are up to date"_qs));
-        press(*windows().first(), u"Close"_qs);
+        QTRY_VERIFY(shown(*windows().first()).contains(u"You are up to date"_s));
+        press(*windows().first(), u"Close"_s);
         QTRY_COMPARE(windows().size(), 0);
     }
 
     void canBeCancelledAnyTime()
     {
-        m_settings.buildNumber = u"9"_qs;
+        m_settings.buildNumber = u"9"_s;
         m_server.answer("/pkg",
                         [](QTcpSocket& client) { client.write("HTTP/1.1 200 OK\r\n\r\nco"); });
         for (const bool isFeedSilent : {true, false}) {
@@ -92,11 +92,11 @@ private Q_SLOTS:
             controller.updater().checkForUpdates();
             const QWidget& window = *windows().first();
             if (!isFeedSilent) {
-                QTRY_VERIFY(shown(window).contains(u"Tarnwick 1.3 is available"_qs));
-                press(window, u"Download"_qs);
-                QTRY_VERIFY(shown(window).contains(u"2 bytes of 7 bytes"_qs));
+                QTRY_VERIFY(shown(window).contains(u"Tarnwick 1.3 is available"_s));
+                press(window, u"Download"_s);
+                QTRY_VERIFY(shown(window).contains(u"2 bytes of 7 bytes"_s));
             }
-            press(window, u"Cancel"_qs);
+            press(window, u"Cancel"_s);
             QTRY_VERIFY(controller.updater().canCheckForUpdates());
             QTRY_VERIFY(windows().isEmpty());
         }
@@ -116,12 +116,12 @@ private Q_SLOTS:
     {
         QImage picture(50, 50, QImage::Format_RGB32);
         picture.fill(Qt::magenta);
-        const QString file = m_folder.filePath(u"picture.png"_qs);
+        const QString file = m_folder.filePath(u"picture.png"_s);
         QVERIFY(picture.save(file));
 
         AppcastItem item;
         item.notes = u"<p>Notes<img src='%1'><img src='file://%1'></p><table><tr>"
-                     "<td style='background-image: url(%1)'>x</td></tr></table>"_qs.arg(file);
+                     "<td style='background-image: url(%1)'>x</td></tr></table>"_s.arg(file);
         NotesView view;
         view.showNotes(item);
         view.resize(400, 300);

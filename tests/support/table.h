@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
 #include <QTest>
 
 namespace tarnwick::test {
 
-using namespace tarnwick; // for tests, which use this namespace
+// For tests, which use this namespace.
+using namespace tarnwick;
+using namespace Qt::StringLiterals;
 
 /// Declares the columns of a _data function. What it returns adds a row: a name, then the values.
 template <typename... Values, typename... Columns>

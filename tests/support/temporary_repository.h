@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/table.h"
+
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -24,8 +26,8 @@ public:
         : m_dir(m_root.filePath(folder))
     {
         QDir().mkpath(m_dir);
-        run({u"git init -q -b main; for file in a b c d; do echo first > $file; done"_qs,
-             u"git add -A; git commit -q -m work"_qs});
+        run({u"git init -q -b main; for file in a b c d; do echo first > $file; done"_s,
+             u"git add -A; git commit -q -m work"_s});
     }
 
     [[nodiscard]] const QString& dir() const { return m_dir; }
@@ -42,17 +44,17 @@ public:
     {
         QProcess shell;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"GIT_CONFIG_GLOBAL"_qs, u"/dev/null"_qs);
-        environment.insert(u"GIT_CONFIG_NOSYSTEM"_qs, u"1"_qs);
+        environment.insert(u"GIT_CONFIG_GLOBAL"_s, u"/dev/null"_s);
+        environment.insert(u"GIT_CONFIG_NOSYSTEM"_s, u"1"_s);
         for (const auto* who : {u"AUTHOR", u"COMMITTER"}) {
-            const QString prefix = u"GIT_"_qs + QString::fromUtf16(who);
-            environment.insert(prefix + u"_NAME"_qs, u"Test"_qs);
-            environment.insert(prefix + u"_EMAIL"_qs, u"test@localhost"_qs);
+            const QString prefix = u"GIT_"_s + QString::fromUtf16(who);
+            environment.insert(prefix + u"_NAME"_s, u"Test"_s);
+            environment.insert(prefix + u"_EMAIL"_s, u"test@localhost"_s);
         }
         shell.setProcessEnvironment(environment);
         shell.setWorkingDirectory(m_dir);
         shell.setProcessChannelMode(QProcess::MergedChannels);
-        shell.start(u"/bin/sh"_qs, {u"-ec"_qs, lines.join(u'\n')});
+        shell.start(u"/bin/sh"_s, {u"-ec"_s, lines.join(u'\n')});
         QVERIFY(shell.waitForFinished());
         QVERIFY2(shell.exitCode() == 0, shell.readAll().constData());
     }
@@ -61,7 +63,7 @@ public:
     {
         QStringList lines;
         for (const QString& command : commands)
-            lines += u"git "_qs + command;
+            lines += u"git "_s + command;
         run(lines);
     }
 

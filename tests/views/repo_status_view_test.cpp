@@ -22,7 +22,7 @@ QStringList shownTexts(const QWidget& view)
     for (const auto* line : view.findChildren<TextLine*>()) {
         if (!line->isVisible())
             continue;
-        static const QRegularExpression glyphs(u"[^ -~]"_qs);
+        static const QRegularExpression glyphs(u"[^ -~]"_s);
         const QString plain = line->text().replace(QChar::Nbsp, u' ').remove(glyphs);
         texts.insert(line->mapTo(&view, QPoint()).y(), plain.simplified());
     }
@@ -44,19 +44,19 @@ private Q_SLOTS:
         const auto row = shownRow(repository.dir());
         const QSignalSpy texts(row.get(), &RepoStatusView::textChanged);
         const auto* const spinner = row->findChild<Spinner*>();
-        QCOMPARE(shownTexts(*row), (QStringList{u"repo"_qs, u"?"_qs, u"Repo is clean"_qs}));
+        QCOMPARE(shownTexts(*row), (QStringList{u"repo"_s, u"?"_s, u"Repo is clean"_s}));
         QList<bool> turning;
         connect(m_record.get(), &RepoViewModel::isLoadingChanged, row.get(),
                 [&] { turning += spinner->isVisible(); });
         QTRY_COMPARE(turning, (QList<bool>{true, false}));
-        QTRY_COMPARE(row->text(), u"repo, branch main, Repo is clean"_qs);
+        QTRY_COMPARE(row->text(), u"repo, branch main, Repo is clean"_s);
         QCOMPARE(row->sizeHint().width(), 340);
 
-        repository.run({u"git checkout -q -b feature/x; echo x >> a; echo x >> b; git add b"_qs});
+        repository.run({u"git checkout -q -b feature/x; echo x >> a; echo x >> b; git add b"_s});
         refreshAll({m_record});
         QTRY_COMPARE(shownTexts(*row),
-                     (QStringList{u"repo"_qs, u"feature/x"_qs, u"1 change 1 staged"_qs}));
-        QCOMPARE(row->text(), u"repo, branch feature/x, 1 change, 1 staged"_qs);
+                     (QStringList{u"repo"_s, u"feature/x"_s, u"1 change 1 staged"_s}));
+        QCOMPARE(row->text(), u"repo, branch feature/x, 1 change, 1 staged"_s);
         QVERIFY(!texts.isEmpty());
         for (const QColor& color : {QColor(0xff, 0xb3, 0), colors::teal(Appearance::Light),
                                     colors::yellow(Appearance::Light)})
@@ -70,21 +70,21 @@ private Q_SLOTS:
         const auto row = shownRow(repository.dir());
         QTRY_VERIFY(m_record->gitStatus());
         const int cleanHeight = row->sizeHint().height();
-        m_bench->store.setBool(false, u"showCleanRepoStatus"_qs);
-        QVERIFY(!shownTexts(*row).contains(u"Repo is clean"_qs));
+        m_bench->store.setBool(false, u"showCleanRepoStatus"_s);
+        QVERIFY(!shownTexts(*row).contains(u"Repo is clean"_s));
         QTRY_VERIFY(row->sizeHint().height() < cleanHeight);
 
-        repository.run({u"touch n"_qs});
+        repository.run({u"touch n"_s});
         refreshAll({m_record});
-        QTRY_VERIFY(shownTexts(*row).contains(u"1 untracked"_qs));
-        m_bench->store.setBool(true, u"onyIcons"_qs);
-        QVERIFY(shownTexts(*row).contains(u"1"_qs));
+        QTRY_VERIFY(shownTexts(*row).contains(u"1 untracked"_s));
+        m_bench->store.setBool(true, u"onyIcons"_s);
+        QVERIFY(shownTexts(*row).contains(u"1"_s));
     }
 
     void longTextsStayInside()
     {
         const TemporaryRepository repository(QString(90, u'n'));
-        repository.run({u"git checkout -q -b feature/"_qs + QString(90, u'b')});
+        repository.run({u"git checkout -q -b feature/"_s + QString(90, u'b')});
         const auto row = shownRow(repository.dir());
         QTRY_VERIFY(m_record->gitStatus() && m_record->branchString());
         row->resize(row->sizeHint());
@@ -102,12 +102,12 @@ private Q_SLOTS:
         const TemporaryRepository repository;
         QImage logo(40, 10, QImage::Format_RGB32);
         logo.fill(QColor(12, 34, 56));
-        QVERIFY(logo.save(repository.dir() + u"/TarnwickLogo.png"_qs));
+        QVERIFY(logo.save(repository.dir() + u"/TarnwickLogo.png"_s));
         const auto row = shownRow(repository.dir());
         // Stretched to a square at the leading inset.
         const QRect shown = areaOf(QColor(12, 34, 56), row->grab().toImage());
         QCOMPARE(shown, QRect(20, shown.y(), 16, 16));
-        repository.write(u"TarnwickLogo.png"_qs, "no picture");
+        repository.write(u"TarnwickLogo.png"_s, "no picture");
         QVERIFY(!m_bench->record(repository.dir())->logo());
     }
 

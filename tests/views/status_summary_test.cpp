@@ -36,27 +36,27 @@ private Q_SLOTS:
         const auto both = [&](const char* word, const QString& glyph, QColor (*color)(Appearance)) {
             row(word, glyph, color(Appearance::Dark), color(Appearance::Light));
         };
-        row("added", u"\U00100238"_qs, colors::green(Appearance::Dark), {0, 0x99, 0});
-        both("deleted", u"\U00100212"_qs, colors::red);
-        both("removed", u"\U00100211"_qs, colors::indigo);
-        both("behind", u"\U00100129"_qs, colors::purple);
-        both("ahead", u"\U00100128"_qs, colors::blue);
-        row("changes", u"\U0010020A"_qs, colors::orange(Appearance::Dark), {0xff, 0xb3, 0});
-        row("change", u"\U0010020A"_qs, colors::orange(Appearance::Dark), {0xff, 0xb3, 0});
-        both("staged", u"\U0010022C"_qs, colors::teal);
-        both("untracked", u"\U00100123"_qs, colors::yellow);
+        row("added", u"\U00100238"_s, colors::green(Appearance::Dark), {0, 0x99, 0});
+        both("deleted", u"\U00100212"_s, colors::red);
+        both("removed", u"\U00100211"_s, colors::indigo);
+        both("behind", u"\U00100129"_s, colors::purple);
+        both("ahead", u"\U00100128"_s, colors::blue);
+        row("changes", u"\U0010020A"_s, colors::orange(Appearance::Dark), {0xff, 0xb3, 0});
+        row("change", u"\U0010020A"_s, colors::orange(Appearance::Dark), {0xff, 0xb3, 0});
+        both("staged", u"\U0010022C"_s, colors::teal);
+        both("untracked", u"\U00100123"_s, colors::yellow);
         row("moved", {}, Qt::white, Qt::white);
     }
 
     void parts()
     {
-        const QString part = u"3\u00a0"_qs + QString::fromLatin1(QTest::currentDataTag());
+        const QString part = u"3\u00a0"_s + QString::fromLatin1(QTest::currentDataTag());
         QFETCH(QString, glyph);
         QFETCH(QColor, dark);
         QFETCH(QColor, light);
         const QString start = glyph + QChar::Nbsp;
-        const QString words = glyph.isEmpty() ? part : start + part + u"   "_qs;
-        const QString icons = glyph.isEmpty() ? part : start + u"3   "_qs;
+        const QString words = glyph.isEmpty() ? part : start + part + u"   "_s;
+        const QString icons = glyph.isEmpty() ? part : start + u"3   "_s;
         using enum SummaryStyle;
         QCOMPARE(statusPartText(part, Words, Appearance::Dark), (TextSegment{words, dark}));
         QCOMPARE(statusPartText(part, OnlyIcons, Appearance::Light), (TextSegment{icons, light}));

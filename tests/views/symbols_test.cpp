@@ -29,8 +29,8 @@ private Q_SLOTS:
         }
         QVERIFY(symbolNamed({}).isEmpty() && symbolNamed(u"no.such").isEmpty());
         // Letters stay those of the interface font.
-        QCOMPARE(QFontMetrics(withSymbols(QFont())).horizontalAdvance(u"letters"_qs),
-                 QFontMetrics(QFont()).horizontalAdvance(u"letters"_qs));
+        QCOMPARE(QFontMetrics(withSymbols(QFont())).horizontalAdvance(u"letters"_s),
+                 QFontMetrics(QFont()).horizontalAdvance(u"letters"_s));
     }
 };
 

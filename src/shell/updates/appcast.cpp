@@ -10,6 +10,8 @@
 
 namespace tarnwick {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QStringView sparkle = u"http://www.andymatuschak.org/xml-namespaces/sparkle";
@@ -42,8 +44,8 @@ Enclosure enclosureFrom(const QXmlStreamAttributes& attributes)
     return {.system = own(u"os"),
             .version = own(u"version"),
             .shortVersion = own(u"shortVersionString"),
-            .url = QUrl(attributes.value(u"url"_qs).trimmed().toString()),
-            .length = attributes.value(u"length"_qs).toLongLong(),
+            .url = QUrl(attributes.value(u"url"_s).trimmed().toString()),
+            .length = attributes.value(u"length"_s).toLongLong(),
             .signature = own(u"edSignature").toLatin1()};
 }
 
@@ -84,7 +86,7 @@ void readPlainElement(QXmlStreamReader& xml, RawItem& raw)
 {
     if (xml.name() == u"description") {
         raw.item.notesArePlainText =
-            xml.attributes().value(sparkle.toString(), u"format"_qs) == u"plain-text";
+            xml.attributes().value(sparkle.toString(), u"format"_s) == u"plain-text";
         raw.item.notes = textOf(xml);
     } else if (xml.name() == u"enclosure") {
         raw.enclosures += enclosureFrom(xml.attributes());
