@@ -152,8 +152,8 @@ bool windowIsActive(const QString& title)
 {
     return QTest::qWaitFor(
         [&] {
-            return outputOf(u"xdotool"_s, {u"getactivewindow"_s, u"getwindowname"_s})
-                       .trimmed() == title.toUtf8();
+            return outputOf(u"xdotool"_s, {u"getactivewindow"_s, u"getwindowname"_s}).trimmed() ==
+                   title.toUtf8();
         },
         patienceMs);
 }
@@ -176,8 +176,7 @@ void key(const QString& name)
 
 QImage screenshot()
 {
-    return QImage::fromData(outputOf(u"import"_s, {u"-window"_s, u"root"_s, u"png:-"_s}),
-                            "PNG");
+    return QImage::fromData(outputOf(u"import"_s, {u"-window"_s, u"root"_s, u"png:-"_s}), "PNG");
 }
 
 QString runScript(const QString& name, const QStringList& arguments)

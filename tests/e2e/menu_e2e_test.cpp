@@ -40,11 +40,10 @@ void MenuE2eTest::rowsFollowTheList()
         {{u"repos"_s,
           QStringList{dirty.dir(), u"/nonexistent/plain"_s, clean.dir() + u'/'}.join(u'\n')}});
     QVERIFY(openMenu());
-    QTRY_COMPARE_WITH_TIMEOUT(
-        menuRows(),
-        (QStringList{u"dirty it's, branch feature/x, 1 change, 1 untracked"_s, u"plain"_s,
-                     u"clean, branch main, Repo is clean"_s}),
-        10000);
+    QTRY_COMPARE_WITH_TIMEOUT(menuRows(),
+                              (QStringList{u"dirty it's, branch feature/x, 1 change, 1 untracked"_s,
+                                           u"plain"_s, u"clean, branch main, Repo is clean"_s}),
+                              10000);
     // Directly below the panel, one row under the other, all of it on the screen.
     const QRect first = accessibleNamed(u"dirty"_s).area;
     const QRect last = accessibleNamed(u"clean"_s).area;

@@ -33,9 +33,8 @@ OutsideWorld::OutsideWorld()
     // Each note is ended by a byte that no argument can hold.
     writeProgram(path(u"bin/note"_s),
                  "{ printf '<%s>' \"$@\"; printf '\\0'; } >> " + root + "/started\n");
-    writeProgram(path(u"bin/xdg-terminal-exec"_s),
-                 root + "/bin/note terminal \"$@\"\necho $$ >> " + root +
-                     "/terminals\nexec xterm -e \"$@\"\n");
+    writeProgram(path(u"bin/xdg-terminal-exec"_s), root + "/bin/note terminal \"$@\"\necho $$ >> " +
+                                                       root + "/terminals\nexec xterm -e \"$@\"\n");
     const auto entry = [&](const QByteArray& name, const QByteArray& arguments) {
         writeFile(path(u"data/applications/%1.desktop"_s.arg(QString::fromUtf8(name))),
                   "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=" + root +

@@ -103,8 +103,7 @@ void PanelE2eTest::gitRunsInTheTerminal()
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(repository.dir() + u"/.git/refs/stash"_s), 20000);
     QCOMPARE(world.openTerminals(), 3);
     QCOMPARE(program.printedCount(u"/usr/bin/git -C %1 status"_s.arg(repository.dir())), 2);
-    for (const auto& [index, command] :
-         {std::pair{0, u"push"_s}, {1, u"pull"_s}, {2, u"stash"_s}})
+    for (const auto& [index, command] : {std::pair{0, u"push"_s}, {1, u"pull"_s}, {2, u"stash"_s}})
         QVERIFY(world.started().value(index).endsWith(
             u"<%1><git><%2>"_s.arg(repository.dir(), command)));
 }
@@ -139,8 +138,8 @@ void PanelE2eTest::installedApplicationOpensTheRepository()
         {{u"repos"_s, repository.dir()}, {u"showinapps___Thunar File Manager.app"_s, true}});
     QVERIFY(openPanel(u"opened-in-thunar"_s));
     QVERIFY(clickNamed(u"Open in Thunar File Manager"_s));
-    xdotool({u"search"_s, u"--sync"_s, u"--onlyvisible"_s, u"--name"_s,
-             u"opened-in-thunar.*Thunar"_s});
+    xdotool(
+        {u"search"_s, u"--sync"_s, u"--onlyvisible"_s, u"--name"_s, u"opened-in-thunar.*Thunar"_s});
     QProcess::execute(u"thunar"_s, {u"--quit"_s});
 }
 

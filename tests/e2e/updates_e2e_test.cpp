@@ -46,8 +46,7 @@ void UpdatesE2eTest::downloadIsVerifiedAndOpened()
     server.answer("/feed", LoopbackServer::bytes(update.feed(package)));
     server.answer("/files/tarnwick-10.txt", LoopbackServer::bytes(served));
 
-    QProcess::execute(u"cp"_s,
-                      {u"-a"_s, QStringLiteral(TARNWICK_INSTALLED), world.path(u"app"_s)});
+    QProcess::execute(u"cp"_s, {u"-a"_s, QStringLiteral(TARNWICK_INSTALLED), world.path(u"app"_s)});
     writeFile(
         world.path(u"app/share/tarnwick/Info.json"_s),
         QJsonDocument(QJsonObject{{u"CFBundleIdentifier"_s, u"org.tarnwick.Tarnwick"_s},

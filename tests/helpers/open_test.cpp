@@ -96,8 +96,7 @@ private Q_SLOTS:
         m_environment.insert(u"PATH"_s, root.filePath(u"bin"_s) + u":/usr/bin:/bin"_s);
 
         BusRecorder recorder;
-        QVERIFY(
-            m_connection.registerVirtualObject(u"/org"_s, &recorder, QDBusConnection::SubPath));
+        QVERIFY(m_connection.registerVirtualObject(u"/org"_s, &recorder, QDBusConnection::SubPath));
         QVERIFY(service.isEmpty() || m_connection.registerService(service));
         QProcess open;
         open.setProcessEnvironment(m_environment);

@@ -118,8 +118,7 @@ private Q_SLOTS:
         for (const auto* dir : {u"/one", u"/two/", u" three", u"/one"})
             list.add(QString::fromUtf16(dir), delegate);
         // On the disk at once, whatever ends the program.
-        QCOMPARE(PreferencesStore(m_path).stringForKey(u"repos"_s),
-                 u"/one\n three\n/two\n/one"_s);
+        QCOMPARE(PreferencesStore(m_path).stringForKey(u"repos"_s), u"/one\n three\n/two\n/one"_s);
         QCOMPARE(dirs(list), (QStringList{u"/one"_s, u" three"_s, u"/two"_s, u"/one"_s}));
         QVERIFY(list.models().front()->delegate() != delegate);
 

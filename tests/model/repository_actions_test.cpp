@@ -17,8 +17,7 @@ private Q_SLOTS:
     {
         const auto row = table<QString, QString>("remote", "address");
         row("scp form", u"git@github.com:owner/repo.git\n"_s, u"https://github.com/owner/repo"_s);
-        row("https", u"https://github.com/owner/repo.git\n"_s,
-            u"https://github.com/owner/repo"_s);
+        row("https", u"https://github.com/owner/repo.git\n"_s, u"https://github.com/owner/repo"_s);
         row("host that does not end in com", u"git@gitlab.gnome.org:owner/repo.git"_s,
             u"https://gitlab.gnome.org:owner/repo"_s);
         row("ssh with a port", u"ssh://git@gitlab.com:22/o/r.git"_s,

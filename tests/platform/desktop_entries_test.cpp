@@ -56,8 +56,7 @@ private Q_SLOTS:
             names.sort();
             found += names.join(u' ');
             const bool isSystem = place == DesktopEntryPlace::System;
-            QCOMPARE(folder.path(),
-                     path(isSystem ? u"a/applications/"_s : u"own/applications/"_s));
+            QCOMPARE(folder.path(), path(isSystem ? u"a/applications/"_s : u"own/applications/"_s));
         }
         QTEST(found.join(u','), "expected");
     }

@@ -41,10 +41,9 @@ private Q_SLOTS:
     void session_data()
     {
         QTest::addColumn<QString>("name");
-        for (const auto& name :
-             {u"two  words"_s, u"it's"_s, u"\"quoted\""_s, u"line\nfeed"_s, u"-P"_s,
-              u"$(touch proof)"_s, u"`touch proof`"_s, u"';touch proof;'"_s,
-              u"back\\slash\\n"_s, u"*"_s, u"\u00fc"_s})
+        for (const auto& name : {u"two  words"_s, u"it's"_s, u"\"quoted\""_s, u"line\nfeed"_s,
+                                 u"-P"_s, u"$(touch proof)"_s, u"`touch proof`"_s,
+                                 u"';touch proof;'"_s, u"back\\slash\\n"_s, u"*"_s, u"\u00fc"_s})
             QTest::newRow(qPrintable(name.simplified())) << name;
     }
 
@@ -58,8 +57,7 @@ private Q_SLOTS:
         // Neither the command's failure nor a Ctrl+C closes the window.
         for (const QString& end : {u"exit 3"_s, u"kill -INT $PPID; kill -INT $$"_s}) {
             const QString script = u"printf %s \"$PWD\" \"$1\"; "_s + end;
-            const QStringList command{u"sh"_s, u"-c"_s, script, u"sh"_s,
-                                      u" \"$(touch proof)"_s};
+            const QStringList command{u"sh"_s, u"-c"_s, script, u"sh"_s, u" \"$(touch proof)"_s};
             QCOMPARE(shown(terminalSession(dir, command)),
                      dir.toUtf8() + " \"$(touch proof)" + shell);
         }

@@ -96,8 +96,7 @@ private Q_SLOTS:
         QCOMPARE(m_fixture->stored().first(), u"/n/a"_s);
         QVERIFY(drag<QDragEnterEvent>(3));
         QVERIFY(drag<QDropEvent>(3));
-        QCOMPARE(m_fixture->stored(),
-                 (QStringList{u"/n/c"_s, u"/n/a"_s, u"/n/b"_s, u"/n/b"_s}));
+        QCOMPARE(m_fixture->stored(), (QStringList{u"/n/c"_s, u"/n/a"_s, u"/n/b"_s, u"/n/b"_s}));
     }
 
 private:

@@ -76,8 +76,7 @@ private Q_SLOTS:
         row("no length", "/feed", key, length, "x=\"", u"size"_s);
         row("negative length", "/feed", key, length, "length=\"-1", u"size"_s);
         row("huge", "/feed", key, length, "length=\"2147483649", u"size"_s);
-        row("elsewhere", "/feed", key, "url=\"", "url=\"http://192.0.2.1/",
-            u"no secure address"_s);
+        row("elsewhere", "/feed", key, "url=\"", "url=\"http://192.0.2.1/", u"no secure address"_s);
         row("nowhere", "/feed", key, "url=", "x=", u"no secure address"_s);
         row("tampered", "/feed", key, "url=\"pkg", "url=\"tampered", u"damaged"_s);
         row("shorter", "/feed", key, "url=\"pkg", "url=\"shorter", u"damaged"_s);

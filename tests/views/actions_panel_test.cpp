@@ -132,8 +132,7 @@ void ActionsPanelTest::opensAddresses()
         QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), this, "takeUrl");
     const QTemporaryDir root;
     QVERIFY(QDir(root.path()).mkpath(u"repo/My App.xcodeproj"_s));
-    m_bench.store.setObject(u"http://localhost/a b @@ Page\nhttp://[bad @@ Bad"_s,
-                            u"repo-urls"_s);
+    m_bench.store.setObject(u"http://localhost/a b @@ Page\nhttp://[bad @@ Bad"_s, u"repo-urls"_s);
     ActionsView panel(m_bench.record(root.filePath(u"repo"_s)), {}, m_bench.runner);
     panel.render();
     entry(panel, u"My App.xcodeproj"_s)->click();
