@@ -9,6 +9,7 @@
 #include "platform/platform.h"
 #include "settings/link_settings_view.h"
 #include "shell/content_window.h"
+#include "shell/menu/hosted_row.h"
 #include "shell/menu/hosting_view.h"
 #include "shell/menu/status_menu.h"
 #include "shell/top_row/refresh_view.h"
@@ -87,7 +88,7 @@ void ApplicationMenu::addRefreshRow(StatusMenu& menu) const
     connect(controls, &RefreshView::settingsRequested, this, &ApplicationMenu::settingsRequested);
     auto* const row = new HostingView(controls);
     row->setText(controls->text());
-    menu.addHostedRow(row);
+    menu.addRow(row);
 }
 
 void ApplicationMenu::addRepositoryItem(const std::shared_ptr<RepoViewModel>& record,
@@ -98,7 +99,7 @@ void ApplicationMenu::addRepositoryItem(const std::shared_ptr<RepoViewModel>& re
     row->setText(status->text());
     connect(status, &RepoStatusView::textChanged, row,
             [status, row] { row->setText(status->text()); });
-    menu.addHostedRow(row)->setMenu(newPanel(record, menu));
+    menu.addRow(row)->setSubmenu(newPanel(record, menu));
     menu.addSeparator();
 }
 
@@ -113,7 +114,7 @@ StatusMenu* ApplicationMenu::newPanel(const std::shared_ptr<RepoViewModel>& reco
     row->setText(tr("Actions for %1").arg(record->name()));
     connect(row, &HostingView::aboutToBeShown, actions, &ActionsView::render);
     auto* const panel = new StatusMenu(&menu);
-    panel->addHostedRow(row);
+    panel->addRow(row);
     return panel;
 }
 
@@ -122,7 +123,7 @@ void ApplicationMenu::addEmptyStateItem(StatusMenu& menu) const
     auto* const text = new EmptyStateView;
     auto* const row = new HostingView(text);
     row->setText(text->text());
-    menu.addHostedRow(row);
+    menu.addRow(row);
 }
 
 } // namespace tarnwick

@@ -83,6 +83,14 @@ QColor secondaryLabelColor(const QPalette& palette)
     return color;
 }
 
+QColor separatorColor(const QPalette& palette)
+{
+    constexpr float strength = 0.25F;
+    QColor color = labelColor(palette);
+    color.setAlphaF(strength);
+    return color;
+}
+
 namespace colors {
 
 QColor white()

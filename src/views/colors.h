@@ -19,6 +19,9 @@ namespace tarnwick {
 [[nodiscard]] QColor labelColor(const QPalette& palette);
 [[nodiscard]] QColor secondaryLabelColor(const QPalette& palette);
 
+/// The thin lines between rows and sections, and around menus.
+[[nodiscard]] QColor separatorColor(const QPalette& palette);
+
 /// The named colours of the views, each in the shade that reads well on that appearance's
 /// background.
 namespace colors {

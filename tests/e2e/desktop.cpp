@@ -136,8 +136,7 @@ bool openPanel(const QString& row)
 {
     if (!openMenu())
         return false;
-    const QPoint middle = appeared(row).area.center();
-    xdotool({u"mousemove"_s, QString::number(middle.x()), QString::number(middle.y())});
+    movePointer({appeared(row).area.center()});
     return !appeared(u"Show in Finder"_s).name.isEmpty();
 }
 
@@ -161,6 +160,14 @@ bool windowIsActive(const QString& title)
 void xdotool(const QStringList& arguments)
 {
     outputOf(u"xdotool"_s, arguments);
+}
+
+void movePointer(const QList<QPoint>& path)
+{
+    QStringList arguments;
+    for (const QPoint point : path)
+        arguments += {u"mousemove"_s, QString::number(point.x()), QString::number(point.y())};
+    xdotool(arguments);
 }
 
 void click(QPoint position, int button)

@@ -60,6 +60,7 @@ private:
 
 /// Runs xdotool, which moves the real pointer and presses real keys.
 void xdotool(const QStringList& arguments);
+void movePointer(const QList<QPoint>& path);
 void click(QPoint position, int button = 1);
 void key(const QString& name);
 

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void rowsFollowTheList();
     void refreshesWhenOpenedIfWanted_data();
     void refreshesWhenOpenedIfWanted();
+    void pointerOpensAndSwitchesPanels();
     void branchClickLeavesTheMenuOpen();
     void contextMenuRefreshesAll();
     void hundredRepositoriesScroll();
@@ -85,6 +86,34 @@ void MenuE2eTest::refreshesWhenOpenedIfWanted()
     QVERIFY(openMenu());
     QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{expected}, 10000);
     QCOMPARE(program.printedCount(statusRun) - runsBefore, refreshOnMenuOpen.toBool() ? 2 : 0);
+}
+
+void MenuE2eTest::pointerOpensAndSwitchesPanels()
+{
+    const RunningProgram program({{u"repos"_s, u"/none/one\n/none/two\n/none/three"_s}});
+    QVERIFY(openMenu());
+    const QRect one = appeared(u"one"_s).area;
+    const QRect three = accessibleNamed(u"three"_s).area;
+    const auto blank = [](const QRect& row) {
+        return screenshot().pixelColor(row.center() + QPoint(0, 12));
+    };
+    QCOMPARE(blank(one), blank(three));
+    movePointer({one.center()});
+    const QRect panel = appeared(u"Actions for one"_s).area;
+    QVERIFY(!panel.isNull());
+    QVERIFY(blank(one) != blank(three));
+
+    // Across the rows below, straight to the far end of the panel.
+    QList<QPoint> path;
+    for (int i = 1; i <= 12; ++i)
+        path += one.center() + (panel.center() + QPoint(0, 80) - one.center()) * i / 12;
+    movePointer(path);
+    QVERIFY(!appeared(u"Actions for one"_s).name.isEmpty());
+
+    movePointer({three.center()});
+    QVERIFY(!appeared(u"Actions for three"_s).name.isEmpty());
+    QVERIFY(accessibleNamed(u"Actions for one"_s).name.isEmpty());
+    QVERIFY(blank(three) != blank(one));
 }
 
 void MenuE2eTest::branchClickLeavesTheMenuOpen()

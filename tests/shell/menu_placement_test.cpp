@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/menu/click_guard.h"
-#include "shell/menu/hover_path.h"
 #include "shell/menu/menu_placement.h"
+#include "shell/menu/submenu_path.h"
 #include "support/test_registry.h"
 
 using namespace tarnwick::test;
@@ -44,14 +44,37 @@ private Q_SLOTS:
         QVERIFY(!placed.intersects(item));
     }
 
-    void pointerHeadsForSubmenu()
+    void submenuStaysBesideMenu_data()
+    {
+        const auto row =
+            table<QRect, int, Qt::LayoutDirection, QRect>("menu", "top", "direction", "submenu");
+        const QSize size(300, 200);
+        row("right", {100, 0, 340, 500}, 60, Qt::LeftToRight, {{440, 60}, size});
+        row("turned left", {660, 0, 340, 500}, 60, Qt::LeftToRight, {{360, 60}, size});
+        row("right to left", {660, 0, 340, 500}, 60, Qt::RightToLeft, {{360, 60}, size});
+        row("turned right", {100, 0, 340, 500}, 60, Qt::RightToLeft, {{440, 60}, size});
+        row("no room on either side", {280, 0, 500, 500}, 60, Qt::LeftToRight, {{0, 60}, size});
+        row("at the end", {100, 0, 340, 600}, 580, Qt::LeftToRight, {{440, 400}, size});
+    }
+
+    void submenuStaysBesideMenu()
+    {
+        QFETCH(QRect, menu);
+        QFETCH(int, top);
+        QFETCH(Qt::LayoutDirection, direction);
+        QTEST(placeSubmenu(menu, top, {0, 0, 1000, 600}, {300, 200}, direction), "submenu");
+    }
+
+    void pathLeadsToSubmenu()
     {
         constexpr QPoint exit(170, 79);
+        SubmenuPath path;
+        path.start(exit);
         for (const QRect submenu : {QRect(340, 0, 300, 400), QRect(-300, 0, 300, 400)}) {
             const int towards = submenu.x() > 0 ? 50 : -50;
-            QVERIFY(headsFor(submenu, exit, exit + QPoint(towards, 80)));
-            QVERIFY(!headsFor(submenu, exit, exit + QPoint(0, 80)));
-            QVERIFY(!headsFor(submenu, exit, exit + QPoint(-towards, 30)));
+            QVERIFY(path.contains(exit + QPoint(towards, 80), submenu));
+            QVERIFY(!path.contains(exit + QPoint(0, 80), submenu));
+            QVERIFY(!path.contains(exit + QPoint(-towards, 30), submenu));
         }
     }
 

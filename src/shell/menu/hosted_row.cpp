@@ -3,111 +3,88 @@
 
 #include "shell/menu/hosting_view.h"
 
-#include <QAbstractButton>
-#include <QCoreApplication>
-#include <QKeyEvent>
+#include <QAccessible>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QVBoxLayout>
 
 #include <utility>
 
 namespace tarnwick {
 
-HostedRow::HostedRow(HostingView* view, QObject* parent)
-    : QWidgetAction(parent)
+namespace {
+
+/// Strong enough to be seen, weak enough for coloured text to keep its contrast.
+constexpr float highlightStrength = 0.12F;
+constexpr qreal highlightRadius = 5;
+
+} // namespace
+
+HostedRow::HostedRow(HostingView* view, QWidget* parent)
+    : QWidget(parent)
     , m_view(view)
 {
-    const auto takeText = [this] {
-        // What is an ampersand to the row would be a shortcut to the menu.
-        setText(m_view->text().replace(u'&', QStringLiteral("&&")));
-    };
-    takeText();
-    connect(view, &HostingView::textChanged, this, takeText);
-    view->installEventFilter(this);
-    view->setMouseTracking(true);
-    adoptChildren();
-    setDefaultWidget(view);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(view);
+    connect(view, &HostingView::textChanged, this, [this] {
+        QAccessibleEvent renamed(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&renamed);
+    });
 }
 
-bool HostedRow::moveFocus(bool forward)
+void HostedRow::setActive(bool active)
 {
-    const QWidgetList widgets = focusWidgets();
-    const qsizetype next = widgets.indexOf(m_view->window()->focusWidget()) + (forward ? 1 : -1);
-    if (next < 0 || next >= widgets.size())
-        return false;
-    widgets[next]->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    return true;
-}
-
-void HostedRow::focusEnd(bool first)
-{
-    const QWidgetList widgets = focusWidgets();
-    if (!widgets.isEmpty())
-        (first ? widgets.first() : widgets.last())
-            ->setFocus(first ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-}
-
-bool HostedRow::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_view)
-        return filterViewEvent(*event);
-    if (event->type() != QEvent::KeyPress)
-        return false;
-    switch (static_cast<QKeyEvent*>(event)->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-        return QCoreApplication::sendEvent(m_view->window(), event);
-    default:
-        return false;
-    }
-}
-
-bool HostedRow::filterViewEvent(QEvent& event)
-{
-    switch (event.type()) {
-    case QEvent::Show:
-    case QEvent::LayoutRequest:
-        adoptChildren();
-        return false;
-    case QEvent::Hide:
-        m_isHeld = false;
-        return false;
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-        m_isHeld = true;
-        event.accept();
-        return true;
-    case QEvent::MouseButtonRelease: {
-        const QPoint position = static_cast<QMouseEvent&>(event).position().toPoint();
-        event.accept();
-        if (std::exchange(m_isHeld, false) && m_view->rect().contains(position))
-            Q_EMIT clicked();
-        return true;
-    }
-    default:
-        return false;
-    }
-}
-
-void HostedRow::adoptChildren()
-{
-    for (QWidget* const child : m_view->findChildren<QWidget*>()) {
-        child->setMouseTracking(true);
-        if (qobject_cast<QAbstractButton*>(child))
-            child->installEventFilter(this);
-    }
+    if (std::exchange(m_isActive, active) != active && m_submenu)
+        update();
 }
 
 QWidgetList HostedRow::focusWidgets() const
 {
     QWidgetList widgets;
-    for (QWidget* w = m_view->nextInFocusChain(); w && w != m_view; w = w->nextInFocusChain()) {
-        if (m_view->isAncestorOf(w) && w->isVisible() && w->isEnabled() &&
+    for (QWidget* w = nextInFocusChain(); w && w != this; w = w->nextInFocusChain()) {
+        if (isAncestorOf(w) && w->isVisible() && w->isEnabled() &&
             (w->focusPolicy() & Qt::TabFocus) != 0)
             widgets.append(w);
     }
     return widgets;
+}
+
+void HostedRow::hideEvent(QHideEvent* event)
+{
+    m_isPressed = false;
+    QWidget::hideEvent(event);
+}
+
+void HostedRow::mousePressEvent(QMouseEvent* event)
+{
+    m_isPressed = true;
+    event->accept();
+}
+
+void HostedRow::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    mousePressEvent(event);
+}
+
+void HostedRow::mouseReleaseEvent(QMouseEvent* event)
+{
+    event->accept();
+    if (std::exchange(m_isPressed, false) && rect().contains(event->position().toPoint()))
+        Q_EMIT clicked();
+}
+
+void HostedRow::paintEvent(QPaintEvent* /*event*/)
+{
+    if (!m_isActive || !m_submenu)
+        return;
+    QColor highlight = palette().color(QPalette::Highlight);
+    highlight.setAlphaF(highlightStrength);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(highlight);
+    painter.drawRoundedRect(rect(), highlightRadius, highlightRadius);
 }
 
 } // namespace tarnwick

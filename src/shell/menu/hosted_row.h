@@ -1,45 +1,52 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QWidgetAction>
+#include <QWidget>
 
 namespace tarnwick {
 
 class HostingView;
+class StatusMenu;
 
-/// The action by which a menu shows a hosted view. Makes the view behave like a menu entry: every
-/// part of it reports the pointer to the menu, its blank area takes clicks instead of closing the
-/// menu, and its buttons leave the arrow keys to the menu.
-class HostedRow : public QWidgetAction
+/// One row of a status menu: a hosted view, and the submenu that the row opens, if any. A row with
+/// a submenu is highlighted while it is the active one of its menu. A press on a blank area belongs
+/// to the row; a press on a control inside it belongs to the control.
+class HostedRow : public QWidget
 {
     Q_OBJECT
 
 public:
     /// Owns the view.
-    HostedRow(HostingView* view, QObject* parent);
+    explicit HostedRow(HostingView* view, QWidget* parent = nullptr);
 
     [[nodiscard]] HostingView& view() const { return *m_view; }
-    /// Whether a press on the blank area is being held.
-    [[nodiscard]] bool isHeld() const { return m_isHeld; }
 
-    /// Moves the focus to the next or previous widget inside; false if there is none.
-    bool moveFocus(bool forward);
-    /// Moves the focus to the first or the last widget inside.
-    void focusEnd(bool first);
+    [[nodiscard]] StatusMenu* submenu() const { return m_submenu; }
+    /// The row's menu is the parent of `submenu` and owns it.
+    void setSubmenu(StatusMenu* submenu) { m_submenu = submenu; }
+
+    [[nodiscard]] bool isActive() const { return m_isActive; }
+    void setActive(bool active);
+
+    /// The controls inside that can have the focus now, in tab order.
+    [[nodiscard]] QWidgetList focusWidgets() const;
 
 Q_SIGNALS:
+    /// A press and its release on the blank area.
     void clicked();
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
-    bool filterViewEvent(QEvent& event);
-    void adoptChildren();
-    [[nodiscard]] QWidgetList focusWidgets() const;
-
     HostingView* const m_view;
-    bool m_isHeld = false;
+    StatusMenu* m_submenu = nullptr;
+    bool m_isActive = false;
+    bool m_isPressed = false;
 };
 
 } // namespace tarnwick

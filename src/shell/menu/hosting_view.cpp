@@ -3,7 +3,6 @@
 
 #include "shell/menu/key_window.h"
 
-#include <QAccessible>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -23,8 +22,6 @@ void HostingView::setText(const QString& text)
     if (text == m_text)
         return;
     m_text = text;
-    QAccessibleEvent renamed(this, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&renamed);
     Q_EMIT textChanged();
 }
 

@@ -63,4 +63,19 @@ QRect placeMenu(const QRect& anchor, const QRect& available, QSize wanted)
     return keptWithin(room, menu);
 }
 
+QRect placeSubmenu(const QRect& menu, int top, const QRect& available, QSize wanted,
+                   Qt::LayoutDirection direction)
+{
+    const int roomLeft = menu.left() - available.left();
+    const int roomRight = available.right() - menu.right();
+    const bool isLeftToRight = direction == Qt::LeftToRight;
+    const int roomAhead = isLeftToRight ? roomRight : roomLeft;
+    const int roomBehind = isLeftToRight ? roomLeft : roomRight;
+    const bool turns = roomAhead < wanted.width() && roomBehind > roomAhead;
+    QRect submenu(QPoint(menu.right() + 1, top), wanted);
+    if (isLeftToRight == turns)
+        submenu.moveRight(menu.left() - 1);
+    return keptWithin(available, submenu);
+}
+
 } // namespace tarnwick

@@ -13,6 +13,12 @@ namespace tarnwick {
 /// the item is then taken to reach a little way around it.
 [[nodiscard]] QRect placeMenu(const QRect& anchor, const QRect& available, QSize wanted);
 
+/// Where the submenu of a row of `menu` goes: beside the menu, behind it in the direction of
+/// reading or before it where the room is larger, and as high up as `top` if that keeps it within
+/// `available`.
+[[nodiscard]] QRect placeSubmenu(const QRect& menu, int top, const QRect& available, QSize wanted,
+                                 Qt::LayoutDirection direction);
+
 /// `rect` moved, and shrunk if it must be, to lie within `available`.
 [[nodiscard]] QRect keptWithin(const QRect& available, QRect rect);
 

@@ -3,25 +3,28 @@
 
 #include <QWidget>
 
-class QMenu;
+class QPainter;
 
 namespace tarnwick {
 
-/// A strip over one end of a menu, drawn like the menu's own panel, that points at hidden rows.
+/// Fills a widget with what the style draws behind the entries of a menu.
+void drawMenuBackground(QPainter& painter, const QWidget& widget);
+
+/// A strip over one end of the rows that points at hidden ones. It hides what it covers, and a
+/// press on it reaches nothing.
 class ScrollArrow : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `menu` becomes the parent.
-    ScrollArrow(Qt::ArrowType direction, QMenu& menu);
+    ScrollArrow(Qt::ArrowType direction, QWidget* parent);
 
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     const Qt::ArrowType m_direction;

@@ -3,72 +3,135 @@
 
 #include "shell/menu/hosted_row.h"
 #include "shell/menu/hosting_view.h"
+#include "shell/menu/menu_input.h"
 #include "shell/menu/menu_placement.h"
-#include "shell/menu/menu_style.h"
+#include "shell/menu/row_column.h"
+#include "shell/menu/scroll_arrow.h"
+#include "views/colors.h"
 
-#include <QActionEvent>
+#include <QAccessible>
 #include <QApplication>
 #include <QPainter>
 #include <QScreen>
+#include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarnwick {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-/// A pointer that stops on another row wants that row, even on the way to the submenu.
-constexpr auto restTime = 200ms;
-
-constexpr qreal highlightStrength = 0.25;
+constexpr int frameWidth = 1;
+constexpr int innerMargin = 6;
 
 bool isWayland()
 {
     return QGuiApplication::platformName().startsWith(u"wayland");
 }
 
-} // namespace
-
-StatusMenu::StatusMenu(QWidget* parent)
-    : QMenu(parent)
+/// On Wayland a popup needs the input event that it answers, and a click on the panel's item is not
+/// ours: the menu is a plain window there, and its submenus are placed at it like tooltips.
+Qt::WindowFlags flagsFor(const StatusMenu* parent)
 {
-    auto* const menuStyle = new MenuStyle;
-    menuStyle->setParent(this);
-    setStyle(menuStyle);
-
-    m_pointerRests.setSingleShot(true);
-    m_pointerRests.setInterval(restTime);
-    m_clock.start();
-    connect(&m_pointerRests, &QTimer::timeout, this, &StatusMenu::followPointer);
-    connect(&m_scroller, &MenuScroller::scrolled, this, &StatusMenu::layOutRows);
-    connect(this, &QMenu::aboutToShow, this, &StatusMenu::prepare);
+    if (isWayland())
+        return Qt::FramelessWindowHint | (parent ? Qt::ToolTip : Qt::Window);
+    return Qt::Popup;
 }
 
-QAction* StatusMenu::addHostedRow(HostingView* view)
+} // namespace
+
+StatusMenu::StatusMenu(StatusMenu* parent)
+    : QWidget(parent, flagsFor(parent))
+    , m_column(new RowColumn(this))
 {
-    auto* const row = new HostedRow(view, this);
-    connect(row, &HostedRow::clicked, this, [this, row] {
-        if (row->menu())
-            setActiveAction(row);
+    setAttribute(Qt::WA_X11NetWmWindowTypePopupMenu);
+    constexpr int margin = frameWidth + innerMargin;
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->addWidget(m_column);
+    m_clock.start();
+    if (!parent)
+        m_input = std::make_unique<MenuInput>(*this);
+
+    connect(m_column, &RowColumn::sizeHintChanged, this, [this] {
+        if (isVisible())
+            fitToRows();
     });
-    addAction(row);
+}
+
+StatusMenu::~StatusMenu() = default;
+
+HostedRow* StatusMenu::addRow(HostingView* view)
+{
+    auto* const row = new HostedRow(view);
+    connect(row, &HostedRow::clicked, this, [this, row] {
+        if (row->submenu())
+            openSubmenuOf(*row);
+    });
+    m_column->addRow(row);
     return row;
 }
 
-HostingView* StatusMenu::hostedView(QAction* action) const
+void StatusMenu::addSeparator()
 {
-    auto* const row = qobject_cast<HostedRow*>(action);
-    return row ? &row->view() : nullptr;
+    m_column->addSeparator();
 }
 
-QAction* StatusMenu::actionOf(const HostingView& view) const
+StatusMenu* StatusMenu::parentMenu() const
 {
-    const QList<QAction*> all = actions();
-    const auto found = std::ranges::find_if(
-        all, [this, &view](QAction* action) { return hostedView(action) == &view; });
-    return found == all.end() ? nullptr : *found;
+    return qobject_cast<StatusMenu*>(parentWidget());
+}
+
+HostedRow* StatusMenu::parentRow() const
+{
+    if (!parentMenu())
+        return nullptr;
+    const auto& rows = parentMenu()->column().rows();
+    const auto found = std::ranges::find(rows, this, &HostedRow::submenu);
+    return found == rows.end() ? nullptr : *found;
+}
+
+StatusMenu* StatusMenu::openSubmenu() const
+{
+    for (const HostedRow* const row : m_column->rows()) {
+        if (row->submenu() && row->submenu()->isVisible())
+            return row->submenu();
+    }
+    return nullptr;
+}
+
+void StatusMenu::setActiveRow(HostedRow* row)
+{
+    HostedRow* const before = std::exchange(m_activeRow, row);
+    if (before == row)
+        return;
+    if (before)
+        before->setActive(false);
+    if (!row)
+        return;
+    row->setActive(true);
+    QAccessibleEvent focused(row, QAccessible::Focus);
+    QAccessible::updateAccessibility(&focused);
+}
+
+void StatusMenu::openSubmenuOf(HostedRow& row)
+{
+    setActiveRow(&row);
+    StatusMenu* const wanted = row.submenu();
+    StatusMenu* const current = openSubmenu();
+    if (wanted == current)
+        return;
+    if (current)
+        current->close();
+    if (wanted)
+        wanted->open();
+}
+
+void StatusMenu::closeSubmenu()
+{
+    if (StatusMenu* const submenu = openSubmenu())
+        submenu->close();
 }
 
 void StatusMenu::popUpBeside(const QRect& anchor)
@@ -80,14 +143,19 @@ void StatusMenu::popUpBeside(const QRect& anchor)
         dismiss();
     if (verdict != ClickGuard::Verdict::open)
         return;
-
     m_clicks.opened(pointer, now);
     m_anchor = anchor.isEmpty() ? QRect(pointer, QSize()) : anchor;
-    // A popup without a parent window fails there; a window that is active does as well.
-    if (isWayland() && windowType() == Qt::Popup)
-        setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
-    prepare();
-    popup(placement().topLeft());
+    Q_EMIT aboutToShow();
+    open();
+}
+
+void StatusMenu::pressedOutside(QPoint global)
+{
+    const ClickGuard::Time now{m_clock.elapsed()};
+    if (m_clicks.repeatsOpening(global, now))
+        return;
+    m_clicks.closedByPress(global, now);
+    dismiss();
 }
 
 void StatusMenu::dismiss()
@@ -98,169 +166,68 @@ void StatusMenu::dismiss()
 
 void StatusMenu::becomeKeyWindow()
 {
-    if (windowType() != Qt::Popup)
+    if (windowType() == Qt::Window)
         activateWindow();
     setFocus(Qt::PopupFocusReason);
 }
 
-QSize StatusMenu::sizeHint() const
-{
-    return fullSize().boundedTo(m_room);
-}
-
 bool StatusMenu::event(QEvent* event)
 {
-    switch (event->type()) {
-    case QEvent::LayoutRequest:
-        // A row's size may have changed.
-        if (isVisible())
-            fit();
-        return true;
-    case QEvent::WindowDeactivate:
-        if (windowType() != Qt::Popup && !QApplication::activePopupWidget()) {
-            m_clicks.closedByPress(QCursor::pos(), ClickGuard::Time(m_clock.elapsed()));
-            close();
-        }
-        break;
-    default:
-        break;
-    }
-    return QMenu::event(event);
-}
-
-void StatusMenu::actionEvent(QActionEvent* event)
-{
-    // A hosted view shows its text itself; QMenu would lay out and repaint everything.
-    const HostingView* const view = hostedView(event->action());
-    if (view && event->type() == QEvent::ActionChanged &&
-        event->action()->isVisible() != view->isHidden())
-        return;
-    QMenu::actionEvent(event);
-    if (isVisible())
-        fit();
+    if (event->type() == QEvent::WindowDeactivate && windowType() == Qt::Window)
+        pressedOutside(QCursor::pos());
+    return QWidget::event(event);
 }
 
 void StatusMenu::hideEvent(QHideEvent* event)
 {
-    m_pointerRests.stop();
-    m_scroller.stop();
-    QMenu::hideEvent(event);
+    closeSubmenu();
+    setActiveRow(nullptr);
+    m_column->stopScrolling();
+    if (m_input)
+        m_input->stop();
+    QWidget::hideEvent(event);
 }
 
-void StatusMenu::paintEvent(QPaintEvent* event)
+void StatusMenu::paintEvent(QPaintEvent* /*event*/)
 {
-    QMenu::paintEvent(event);
-    const HostedRow* const row = activeRow();
-    if (!row || !row->menu())
-        return;
-    QColor highlight = palette().color(QPalette::Highlight);
-    highlight.setAlphaF(highlightStrength);
-    QPainter(this).fillRect(row->view().geometry(), highlight);
+    QPainter painter(this);
+    drawMenuBackground(painter, *this);
+    painter.setPen(separatorColor(palette()));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-void StatusMenu::resizeEvent(QResizeEvent* event)
+void StatusMenu::open()
 {
-    QMenu::resizeEvent(event);
-    m_scroller.fit(fullSize().height());
+    for (const HostedRow* const row : m_column->rows())
+        Q_EMIT row->view().aboutToBeShown();
+    m_column->scrollToTop();
+    setFocus(Qt::PopupFocusReason);
+    setGeometry(placement());
+    if (m_input)
+        m_input->start();
+    show();
 }
 
-// Layout
-
-void StatusMenu::prepare()
+void StatusMenu::fitToRows()
 {
-    for (QAction* const action : actions()) {
-        if (HostingView* const view = hostedView(action))
-            Q_EMIT view->aboutToBeShown();
-    }
-    m_scroller.scrollTo(0);
-    layOutRows();
-    m_room = {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
-    m_room = placement().size();
-}
-
-void StatusMenu::layOutRows()
-{
-    // QMenu offers no other way to do just this: a resize makes it look at its rows again.
-    QResizeEvent sameSize(size(), size());
-    QMenu::event(&sameSize);
-}
-
-void StatusMenu::fit()
-{
-    layOutRows();
     const QRect place = placement();
-    m_room = place.size();
     if (place != geometry())
         setGeometry(place);
-    m_scroller.fit(fullSize().height());
-}
-
-QSize StatusMenu::fullSize() const
-{
-    return QMenu::sizeHint() + QSize(0, m_scroller.offset());
+    if (StatusMenu* const submenu = openSubmenu())
+        submenu->fitToRows();
 }
 
 QRect StatusMenu::placement() const
 {
-    if (!m_anchor)
-        return keptWithin(screen()->availableGeometry(), QRect(pos(), fullSize()));
+    const QMargins margins = layout()->contentsMargins();
+    const QSize wanted = m_column->sizeHint().grownBy(margins);
+    if (const HostedRow* const row = parentRow()) {
+        const int top = row->mapToGlobal(QPoint()).y() - margins.top();
+        return placeSubmenu(parentMenu()->geometry(), top, row->screen()->availableGeometry(),
+                            wanted, layoutDirection());
+    }
     const QScreen* const at = QGuiApplication::screenAt(m_anchor->center());
-    return placeMenu(*m_anchor, (at ? at : screen())->availableGeometry(), fullSize());
-}
-
-// The menus around this one
-
-HostedRow* StatusMenu::rowAt(QPoint position) const
-{
-    return qobject_cast<HostedRow*>(actionAt(position));
-}
-
-HostedRow* StatusMenu::activeRow() const
-{
-    return qobject_cast<HostedRow*>(activeAction());
-}
-
-StatusMenu* StatusMenu::openSubmenu() const
-{
-    // Not just the active action's: another row may be about to take over.
-    for (const QAction* const action : actions()) {
-        auto* const submenu = qobject_cast<StatusMenu*>(action->menu());
-        if (submenu && submenu->isVisible())
-            return submenu;
-    }
-    return nullptr;
-}
-
-void StatusMenu::closeSubmenu()
-{
-    if (StatusMenu* const submenu = openSubmenu())
-        submenu->close();
-}
-
-StatusMenu* StatusMenu::parentMenu() const
-{
-    for (QObject* const object : menuAction()->associatedObjects()) {
-        auto* const menu = qobject_cast<StatusMenu*>(object);
-        if (menu && menu->isVisible())
-            return menu;
-    }
-    return nullptr;
-}
-
-StatusMenu* StatusMenu::topMenu()
-{
-    StatusMenu* menu = this;
-    while (StatusMenu* const parent = menu->parentMenu())
-        menu = parent;
-    return menu;
-}
-
-StatusMenu* StatusMenu::ancestorAt(QPoint global) const
-{
-    StatusMenu* menu = parentMenu();
-    while (menu && !menu->rect().contains(menu->mapFromGlobal(global)))
-        menu = menu->parentMenu();
-    return menu;
+    return placeMenu(*m_anchor, (at ? at : screen())->availableGeometry(), wanted);
 }
 
 } // namespace tarnwick

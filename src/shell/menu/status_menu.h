@@ -3,92 +3,85 @@
 
 #include "shell/menu/click_guard.h"
 #include "shell/menu/key_window.h"
-#include "shell/menu/menu_scroller.h"
 
 #include <QElapsedTimer>
-#include <QMenu>
-#include <QTimer>
+#include <QWidget>
 
+#include <memory>
 #include <optional>
 
 namespace tarnwick {
 
 class HostedRow;
 class HostingView;
+class MenuInput;
+class RowColumn;
 
-/// A menu of hosted views, popped up by us next to the status item; submenus are status menus too,
-/// set on a row's action. Differs from `QMenu` where that does not expect more than plain entries:
-/// it follows the size of its rows while open, scrolls in one column, lets the pointer cross other
-/// rows on the way to an open submenu, and passes presses and keys on to what is inside the rows.
-class StatusMenu : public QMenu, public KeyWindow
+/// A menu of hosted views, popped up next to the status item; the submenu of a row is a status menu
+/// too. It follows the size of its rows while it is open and never leaves the screen.
+///
+/// It is no QMenu, which expects plain entries: that delivers what happens over hosted widgets
+/// differently from one version of Qt to the next (Qt 6.8 counts each widget that the pointer
+/// enters as a new start and ignores the first moves), and closes on a press over a parent menu's
+/// widget. What the pointer and the keys do is decided by `MenuInput`, from the events of the
+/// windows.
+class StatusMenu : public QWidget, public KeyWindow
 {
     Q_OBJECT
 
 public:
-    explicit StatusMenu(QWidget* parent = nullptr);
+    /// With a parent it is a submenu, to be set on one of the parent's rows.
+    explicit StatusMenu(StatusMenu* parent = nullptr);
+    ~StatusMenu() override;
 
-    /// Owns the view. The action's text follows the view's.
-    QAction* addHostedRow(HostingView* view);
-    /// The view that shows an action of this menu; none for a plain action.
-    [[nodiscard]] HostingView* hostedView(QAction* action) const;
-    [[nodiscard]] QAction* actionOf(const HostingView& view) const;
-    /// The open menu that this one is a submenu of.
+    /// Owns the view.
+    HostedRow* addRow(HostingView* view);
+    void addSeparator();
+    [[nodiscard]] RowColumn& column() const { return *m_column; }
+
     [[nodiscard]] StatusMenu* parentMenu() const;
+    /// The row that this is the submenu of; none for a menu without a parent.
+    [[nodiscard]] HostedRow* parentRow() const;
+    [[nodiscard]] StatusMenu* openSubmenu() const;
+
+    /// The row that is highlighted, or has the keyboard; none at first.
+    [[nodiscard]] HostedRow* activeRow() const { return m_activeRow; }
+    void setActiveRow(HostedRow* row);
+    /// Makes the row the active one and opens its submenu in place of another row's; a row without
+    /// one just closes that.
+    void openSubmenuOf(HostedRow& row);
+    void closeSubmenu();
 
     /// Answers a click on the status item at `anchor`, or at the pointer if the item's place is not
     /// known and the anchor's size is null: opens the menu, or closes it if it is open. The further
     /// events of a click that has been answered do nothing.
     void popUpBeside(const QRect& anchor);
+    /// Answers a press outside of all menus: closes them, unless it belongs to the click that
+    /// opened the menu.
+    void pressedOutside(QPoint global);
     /// Closes the menu and all its submenus.
     void dismiss();
 
     void becomeKeyWindow() override;
 
-    [[nodiscard]] QSize sizeHint() const override;
+Q_SIGNALS:
+    void aboutToShow();
 
 protected:
     bool event(QEvent* event) override;
-    bool focusNextPrevChild(bool next) override;
-    void actionEvent(QActionEvent* event) override;
     void hideEvent(QHideEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void leaveEvent(QEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
 
 private:
-    [[nodiscard]] HostedRow* rowAt(QPoint position) const;
-    [[nodiscard]] HostedRow* activeRow() const;
-    [[nodiscard]] StatusMenu* openSubmenu() const;
-    void closeSubmenu();
-    [[nodiscard]] StatusMenu* topMenu();
-    /// The nearest open menu above this one that reaches under a point of the screen.
-    [[nodiscard]] StatusMenu* ancestorAt(QPoint global) const;
-
-    void prepare();
-    void layOutRows();
-    void fit();
-    [[nodiscard]] QSize fullSize() const;
+    void open();
+    void fitToRows();
     [[nodiscard]] QRect placement() const;
 
-    [[nodiscard]] bool isOnTheWayToSubmenu(QPoint position);
-    void followPointer();
-    static void handPressTo(StatusMenu& ancestor, const QMouseEvent& press);
-    [[nodiscard]] bool answersPressOutside(QPoint global);
-    void step(bool forward, bool throughRows);
-    void enter();
-    void revealFocus();
+    RowColumn* const m_column;
+    HostedRow* m_activeRow = nullptr;
+    std::unique_ptr<MenuInput> m_input;
 
-    MenuScroller m_scroller{*this};
     std::optional<QRect> m_anchor;
-    QSize m_room{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
-
-    QPoint m_lastOnRow;
-    QTimer m_pointerRests;
-
     ClickGuard m_clicks;
     QElapsedTimer m_clock;
 };

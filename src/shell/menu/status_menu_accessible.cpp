@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/menu/status_menu_accessible.h"
 
+#include "shell/menu/hosted_row.h"
 #include "shell/menu/hosting_view.h"
-#include "shell/menu/hosting_view_accessible.h"
-#include "shell/menu/menu_entry_accessible.h"
+#include "shell/menu/row_column.h"
 #include "shell/menu/status_menu.h"
 
 #include <QAccessible>
@@ -14,6 +14,11 @@
 namespace tarnwick {
 
 namespace {
+
+QAccessibleInterface* interfaceOf(QObject* object)
+{
+    return object ? QAccessible::queryAccessibleInterface(object) : nullptr;
+}
 
 /// The application with its open status menus.
 class ApplicationAccessible : public QAccessibleApplication
@@ -27,9 +32,8 @@ public:
     QAccessibleInterface* child(int index) const override
     {
         const int windows = QAccessibleApplication::childCount();
-        return index < windows
-                   ? QAccessibleApplication::child(index)
-                   : QAccessible::queryAccessibleInterface(openMenus().value(index - windows));
+        return index < windows ? QAccessibleApplication::child(index)
+                               : interfaceOf(openMenus().value(index - windows));
     }
 
     int indexOfChild(const QAccessibleInterface* child) const override
@@ -52,7 +56,7 @@ private:
     }
 };
 
-/// A menu whose children are its hosted views and its plain entries.
+/// A menu whose children are its rows.
 class StatusMenuAccessible : public QAccessibleWidget
 {
 public:
@@ -60,32 +64,87 @@ public:
         : QAccessibleWidget(menu, QAccessible::PopupMenu)
     {}
 
-    int childCount() const override { return static_cast<int>(widget()->actions().size()); }
-
+    int childCount() const override { return static_cast<int>(rows().size()); }
     QAccessibleInterface* child(int index) const override
     {
-        QAction* const action = widget()->actions().value(index);
-        QObject* const view = menu()->hostedView(action);
-        return QAccessible::queryAccessibleInterface(view ? view : action);
+        return interfaceOf(rows().value(index));
     }
-
     int indexOfChild(const QAccessibleInterface* child) const override
     {
-        QObject* const object = child ? child->object() : nullptr;
-        const auto* const view = qobject_cast<HostingView*>(object);
-        QAction* const action = view ? menu()->actionOf(*view) : qobject_cast<QAction*>(object);
-        return static_cast<int>(widget()->actions().indexOf(action));
+        return static_cast<int>(rows().indexOf(child ? child->object() : nullptr));
     }
-
     QAccessibleInterface* parent() const override
     {
-        const StatusMenu* const above = menu()->parentMenu();
-        QObject* const row = above ? above->hostedView(menu()->menuAction()) : nullptr;
-        return row ? QAccessible::queryAccessibleInterface(row) : QAccessibleWidget::parent();
+        HostedRow* const row = menu()->parentRow();
+        return row ? interfaceOf(row) : QAccessibleWidget::parent();
     }
 
 private:
     StatusMenu* menu() const { return static_cast<StatusMenu*>(widget()); }
+    const QList<HostedRow*>& rows() const { return menu()->column().rows(); }
+};
+
+/// A menu item named by the view's text, or a plain group where the row opens nothing; in it the
+/// widgets of the view and the submenu.
+class HostedRowAccessible : public QAccessibleWidget
+{
+public:
+    explicit HostedRowAccessible(HostedRow* row)
+        : QAccessibleWidget(row, row->submenu() ? QAccessible::MenuItem : QAccessible::Grouping)
+    {}
+
+    QAccessible::Role role() const override
+    {
+        return row()->submenu() ? QAccessible::MenuItem : QAccessible::Grouping;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        const QRect area = menu()->column().areaOf(*row());
+        state.focusable = true;
+        state.hasPopup = row()->submenu() != nullptr;
+        state.focused = menu()->hasFocus() && row()->isActive();
+        state.offscreen = !menu()->column().rect().intersects(area);
+        return state;
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? row()->view().text() : QAccessibleWidget::text(kind);
+    }
+
+    QAccessibleInterface* parent() const override { return interfaceOf(menu()); }
+
+    int childCount() const override
+    {
+        return QAccessibleWidget::childCount() + (row()->submenu() ? 1 : 0);
+    }
+    QAccessibleInterface* child(int index) const override
+    {
+        return index == QAccessibleWidget::childCount() ? interfaceOf(row()->submenu())
+                                                        : QAccessibleWidget::child(index);
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        return child && row()->submenu() && child->object() == row()->submenu()
+                   ? QAccessibleWidget::childCount()
+                   : QAccessibleWidget::indexOfChild(child);
+    }
+
+    QStringList actionNames() const override
+    {
+        return row()->submenu() ? QStringList(showMenuAction()) : QStringList();
+    }
+    void doAction(const QString& actionName) override
+    {
+        if (actionName == showMenuAction() && row()->submenu())
+            menu()->openSubmenuOf(*row());
+    }
+
+private:
+    HostedRow* row() const { return static_cast<HostedRow*>(widget()); }
+    StatusMenu* menu() const { return static_cast<StatusMenu*>(widget()->window()); }
 };
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object)
@@ -94,10 +153,8 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
         return new ApplicationAccessible;
     if (auto* const menu = qobject_cast<StatusMenu*>(object))
         return new StatusMenuAccessible(menu);
-    if (auto* const view = qobject_cast<HostingView*>(object))
-        return new HostingViewAccessible(view);
-    if (auto* const action = qobject_cast<QAction*>(object))
-        return makeMenuEntryAccessible(action);
+    if (auto* const row = qobject_cast<HostedRow*>(object))
+        return new HostedRowAccessible(row);
     return nullptr;
 }
 

@@ -3,9 +3,9 @@
 
 namespace tarnwick {
 
-/// Tells assistive technology what status menus hold. By itself Qt reports only the texts of a
-/// menu's actions, nothing inside hosted views, and leaves open popups out of the application's
-/// children. To be called once, before the event loop runs.
+/// Tells assistive technology that status menus are menus and their rows menu items. By itself Qt
+/// leaves open popups out of the application's children. To be called once, before the event loop
+/// runs.
 void installMenuAccessibility();
 
 } // namespace tarnwick

@@ -10,7 +10,6 @@ namespace tarnwick {
 namespace {
 
 constexpr int padding = 10;
-constexpr float strength = 0.2F;
 
 } // namespace
 
@@ -22,9 +21,8 @@ Divider::Divider(QWidget* parent)
 
 void Divider::paintEvent(QPaintEvent* /*event*/)
 {
-    QColor color = labelColor(palette());
-    color.setAlphaF(strength);
-    QPainter(this).fillRect(QRect(padding, padding, width() - 2 * padding, 1), color);
+    QPainter(this).fillRect(QRect(padding, padding, width() - 2 * padding, 1),
+                            separatorColor(palette()));
 }
 
 } // namespace tarnwick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/menu/hover_path.h"
+#include "shell/menu/submenu_path.h"
 
 #include <QPolygon>
 
@@ -8,15 +8,15 @@ namespace tarnwick {
 namespace {
 
 /// How far the triangle begins behind the pointer: hands are not steady.
-constexpr int slack = 6;
+constexpr int tolerance = 6;
 
 } // namespace
 
-bool headsFor(const QRect& submenu, QPoint exit, QPoint position)
+bool SubmenuPath::contains(QPoint position, const QRect& submenu) const
 {
-    const bool toTheRight = submenu.center().x() > exit.x();
+    const bool toTheRight = submenu.center().x() > m_start.x();
     const int nearEdge = toTheRight ? submenu.left() : submenu.right();
-    const QPoint apex = exit - QPoint(toTheRight ? slack : -slack, 0);
+    const QPoint apex = m_start - QPoint(toTheRight ? tolerance : -tolerance, 0);
     const QPolygon triangle(
         {apex, QPoint(nearEdge, submenu.top()), QPoint(nearEdge, submenu.bottom())});
     return triangle.containsPoint(position, Qt::OddEvenFill);
