@@ -20,11 +20,11 @@ class RowColumn;
 /// A menu of hosted views, popped up next to the status item; the submenu of a row is a status menu
 /// too. It follows the size of its rows while it is open and never leaves the screen.
 ///
-/// It is no QMenu, which expects plain entries: that delivers what happens over hosted widgets
-/// differently from one version of Qt to the next (Qt 6.8 counts each widget that the pointer
-/// enters as a new start and ignores the first moves), and closes on a press over a parent menu's
-/// widget. What the pointer and the keys do is decided by `MenuInput`, from the events of the
-/// windows.
+/// It is no QMenu, which expects plain entries and a click of its own: Qt 6.8 ignores the first moves
+/// over a QMenu that opens before the program has seen the pointer (it measures how far that has
+/// moved since its last known position, of which there is none after a click on another program's
+/// panel), and a press over a parent menu's widget closes everything. What pointer and keys do is
+/// decided by `MenuInput`, from the events of the windows.
 class StatusMenu : public QWidget, public KeyWindow
 {
     Q_OBJECT
