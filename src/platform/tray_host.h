@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QList>
 #include <QObject>
 #include <QRect>
 
@@ -23,6 +24,10 @@ public:
     using QObject::QObject;
 
     [[nodiscard]] virtual bool available() const = 0;
+
+    /// Where the desktop's panels are to be seen now, in logical coordinates of all screens; empty
+    /// where none is, or where the desktop does not tell. Asks anew each time.
+    [[nodiscard]] virtual QList<QRect> panelRects() const = 0;
 
     /// The colour that the status item is seen against; nothing where the desktop does not tell.
     /// `item` is where the item is on the screen, empty when that is not known.

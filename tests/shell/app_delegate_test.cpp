@@ -20,6 +20,7 @@ namespace {
 struct NoTrayHost : TrayHost
 {
     [[nodiscard]] bool available() const override { return false; }
+    [[nodiscard]] QList<QRect> panelRects() const override { return {}; }
     [[nodiscard]] std::optional<QColor> panelColor(const QRect&) const override { return {}; }
 };
 

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/tray_host.h"
 
+#include "platform/freedesktop/dock_windows.h"
 #include "platform/freedesktop/panel_color.h"
+#include "platform/freedesktop/panel_rects.h"
+
+#include <QGuiApplication>
+#include <QScreen>
 
 #include <chrono>
 
@@ -48,6 +53,15 @@ void FreedesktopTrayHost::settle()
     m_trayAlone.stop();
     m_available = true;
     Q_EMIT appeared();
+}
+
+QList<QRect> FreedesktopTrayHost::panelRects() const
+{
+    QList<Monitor> monitors;
+    for (const QScreen* screen : QGuiApplication::screens())
+        monitors.append(
+            {screen->geometry(), screen->availableGeometry(), screen->devicePixelRatio()});
+    return tarnwick::panelRects(dockWindows(), monitors);
 }
 
 std::optional<QColor> FreedesktopTrayHost::panelColor(const QRect& item) const

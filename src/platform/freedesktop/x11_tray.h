@@ -28,7 +28,7 @@ Q_SIGNALS:
 private:
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
-    xcb_connection_t* m_connection = nullptr;
+    xcb_connection_t* const m_connection;
     std::uint32_t m_manager = 0;
     std::uint32_t m_selection = 0;
 };

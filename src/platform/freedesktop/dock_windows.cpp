@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "platform/freedesktop/dock_windows.h"
+
+#include "platform/freedesktop/x11.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+namespace tarnwick {
+
+namespace {
+
+using x11::ReplyPointer;
+
+constexpr std::uint32_t maxWindows = 4096;
+constexpr std::uint32_t maxCoordinate = 0xffff;
+
+/// A property that is a list of 32-bit numbers, as window managers' are.
+class Numbers
+{
+public:
+    Numbers(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t property, xcb_atom_t type)
+        : m_reply(xcb_get_property_reply(
+              connection,
+              xcb_get_property_unchecked(connection, false, window, property, type, 0, maxWindows),
+              nullptr))
+    {}
+
+    [[nodiscard]] std::span<const std::uint32_t> values() const
+    {
+        if (!m_reply || m_reply->format != 32)
+            return {};
+        const auto size = static_cast<std::size_t>(xcb_get_property_value_length(m_reply.get()));
+        return {static_cast<const std::uint32_t*>(xcb_get_property_value(m_reply.get())),
+                size / sizeof(std::uint32_t)};
+    }
+
+private:
+    ReplyPointer<xcb_get_property_reply_t> m_reply;
+};
+
+/// On the root window; empty if the window is gone.
+QRect geometryOf(xcb_connection_t* connection, xcb_window_t window, xcb_window_t root)
+{
+    const auto askedSize = xcb_get_geometry_unchecked(connection, window);
+    const auto askedPlace = xcb_translate_coordinates_unchecked(connection, window, root, 0, 0);
+    const ReplyPointer<xcb_get_geometry_reply_t> size{
+        xcb_get_geometry_reply(connection, askedSize, nullptr)};
+    const ReplyPointer<xcb_translate_coordinates_reply_t> place{
+        xcb_translate_coordinates_reply(connection, askedPlace, nullptr)};
+    return size && place ? QRect(place->dst_x, place->dst_y, size->width, size->height) : QRect();
+}
+
+/// Of _NET_WM_STRUT_PARTIAL: the widths of the strips at the left, right, top and bottom edge, and
+/// in the same order where each starts and ends along its edge.
+QList<QRect> strips(std::span<const std::uint32_t> strut, QSize root)
+{
+    if (strut.size() < 12)
+        return {};
+    std::array<int, 12> v{};
+    std::ranges::transform(strut.first(v.size()), v.begin(), [](std::uint32_t value) {
+        return static_cast<int>(std::min(value, maxCoordinate));
+    });
+    return {QRect(QPoint(0, v[4]), QPoint(v[0] - 1, v[5])),
+            QRect(QPoint(root.width() - v[1], v[6]), QPoint(root.width() - 1, v[7])),
+            QRect(QPoint(v[8], 0), QPoint(v[9], v[2] - 1)),
+            QRect(QPoint(v[10], root.height() - v[3]), QPoint(v[11], root.height() - 1))};
+}
+
+} // namespace
+
+QList<DockWindow> dockWindows()
+{
+    xcb_connection_t* const connection = x11::connection();
+    if (!connection)
+        return {};
+    const auto atom = [connection](const char* name) { return x11::internAtom(connection, name); };
+    const xcb_atom_t typeProperty = atom("_NET_WM_WINDOW_TYPE");
+    const xcb_atom_t dock = atom("_NET_WM_WINDOW_TYPE_DOCK");
+    const xcb_atom_t strutProperty = atom("_NET_WM_STRUT_PARTIAL");
+    const xcb_window_t root = x11::rootWindow(connection);
+    const QSize rootSize = geometryOf(connection, root, root).size();
+
+    QList<DockWindow> docks;
+    const Numbers windows(connection, root, atom("_NET_CLIENT_LIST_STACKING"), XCB_ATOM_WINDOW);
+    for (const xcb_window_t window : windows.values()) {
+        const Numbers types(connection, window, typeProperty, XCB_ATOM_ATOM);
+        if (!std::ranges::count(types.values(), dock))
+            continue;
+        const Numbers strut(connection, window, strutProperty, XCB_ATOM_CARDINAL);
+        docks.append({geometryOf(connection, window, root), strips(strut.values(), rootSize)});
+    }
+    return docks;
+}
+
+} // namespace tarnwick
