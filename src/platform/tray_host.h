@@ -29,14 +29,17 @@ public:
     /// where none is, or where the desktop does not tell. Asks anew each time.
     [[nodiscard]] virtual QList<QRect> panelRects() const = 0;
 
-    /// The colour that the status item is seen against; nothing where the desktop does not tell.
-    /// `item` is where the item is on the screen, empty when that is not known.
+    /// The colour that the status item is seen against; nothing where the desktop does not tell and
+    /// while the panel is hidden. `item` is where the item is on the screen; where that is not
+    /// known, an empty rectangle at a point on its panel, or a null one.
     [[nodiscard]] virtual std::optional<QColor> panelColor(const QRect& item) const = 0;
 
 Q_SIGNALS:
     /// A place has come up: the first, or another after the panel started anew. Never emitted from
     /// within the constructor.
     void appeared();
+    /// A panel has moved, or shows or hides itself.
+    void panelsMoved();
 };
 
 } // namespace tarnwick

@@ -27,6 +27,7 @@ StatusItem::StatusItem(TrayHost& host, QObject* parent)
     m_panelSettled.setInterval(500ms);
     connect(&m_panelSettled, &QTimer::timeout, this, &StatusItem::matchPanel);
     connect(&m_host, &TrayHost::appeared, this, &StatusItem::place);
+    connect(&m_host, &TrayHost::panelsMoved, &m_panelSettled, qOverload<>(&QTimer::start));
     qApp->installEventFilter(this);
 
     if (m_host.available()) {
@@ -62,8 +63,9 @@ void StatusItem::place()
                 [this](QSystemTrayIcon::ActivationReason reason) {
                     if (reason == QSystemTrayIcon::Context)
                         return;
+                    m_anchor = anchor();
                     matchPanel(); // nothing announces a panel that was given another colour
-                    Q_EMIT triggered(anchor());
+                    Q_EMIT triggered(m_anchor);
                 });
         matchPanel();
         m_icon->show();
@@ -73,9 +75,15 @@ void StatusItem::place()
 
 void StatusItem::matchPanel()
 {
-    const QColor panel =
-        m_host.panelColor(m_icon->geometry()).value_or(QGuiApplication::palette().window().color());
-    const QColor ink = statusGlyphColor(panel);
+    if (!m_icon)
+        return;
+    const QRect place = m_icon->geometry();
+    const auto panel = m_host.panelColor(place.isEmpty() ? m_anchor : place);
+    if (!panel && m_hasSeenPanel)
+        return; // it is hidden
+    m_hasSeenPanel = panel.has_value();
+    const QColor ink =
+        statusGlyphColor(panel.value_or(QGuiApplication::palette().window().color()));
     if (ink == m_ink)
         return;
     m_ink = ink;
@@ -90,7 +98,7 @@ QRect StatusItem::anchor() const
 
 bool StatusItem::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange && m_icon)
+    if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange)
         m_panelSettled.start();
     return QObject::eventFilter(watched, event);
 }

@@ -44,6 +44,9 @@ private:
     QMenu m_contextMenu;
     std::unique_ptr<QSystemTrayIcon> m_icon;
     QTimer m_panelSettled;
+    /// Of the last click.
+    QRect m_anchor;
+    bool m_hasSeenPanel = false;
     QColor m_ink;
 };
 

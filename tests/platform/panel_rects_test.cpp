@@ -37,6 +37,27 @@ private Q_SLOTS:
         QFETCH(QList<Monitor>, monitors);
         QTEST(panelRects(docks, monitors), "panels");
     }
+
+    void colorIsThatBehindTheItem_data()
+    {
+        const auto row = table<QRect, QList<QRect>, QRect>("item", "panels", "area");
+        const QRect upper(0, 0, 800, 26);
+        const QRect lower(0, 574, 800, 26);
+        const QRect item(700, 2, 22, 22);
+        row("item", item, {lower, upper}, item);
+        row("hidden panel", item, {lower}, {});
+        row("unknown panel", item, {}, item);
+        row("click", {700, 580, 0, 0}, {upper, lower}, lower);
+        row("nothing known", {}, {upper, lower}, upper);
+        row("nothing there", {}, {}, {});
+    }
+
+    void colorIsThatBehindTheItem()
+    {
+        QFETCH(QRect, item);
+        QFETCH(QList<QRect>, panels);
+        QTEST(areaBehind(item, panels), "area");
+    }
 };
 
 TARNWICK_TEST(PanelRectsTest)

@@ -3,6 +3,8 @@
 
 #include "platform/freedesktop/x11.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <span>
@@ -70,28 +72,50 @@ QList<QRect> strips(std::span<const std::uint32_t> strut, QSize root)
 
 } // namespace
 
-QList<DockWindow> dockWindows()
+DockWindows::DockWindows()
+    : m_connection(x11::connection())
 {
-    xcb_connection_t* const connection = x11::connection();
-    if (!connection)
+    if (m_connection)
+        qApp->installNativeEventFilter(this);
+}
+
+QList<DockWindow> DockWindows::find() const
+{
+    if (!m_connection)
         return {};
-    const auto atom = [connection](const char* name) { return x11::internAtom(connection, name); };
+    const auto atom = [this](const char* name) { return x11::internAtom(m_connection, name); };
     const xcb_atom_t typeProperty = atom("_NET_WM_WINDOW_TYPE");
     const xcb_atom_t dock = atom("_NET_WM_WINDOW_TYPE_DOCK");
     const xcb_atom_t strutProperty = atom("_NET_WM_STRUT_PARTIAL");
-    const xcb_window_t root = x11::rootWindow(connection);
-    const QSize rootSize = geometryOf(connection, root, root).size();
+    const xcb_window_t root = x11::rootWindow(m_connection);
+    const QSize rootSize = geometryOf(m_connection, root, root).size();
 
     QList<DockWindow> docks;
-    const Numbers windows(connection, root, atom("_NET_CLIENT_LIST_STACKING"), XCB_ATOM_WINDOW);
+    m_followed.clear();
+    const Numbers windows(m_connection, root, atom("_NET_CLIENT_LIST_STACKING"), XCB_ATOM_WINDOW);
     for (const xcb_window_t window : windows.values()) {
-        const Numbers types(connection, window, typeProperty, XCB_ATOM_ATOM);
+        const Numbers types(m_connection, window, typeProperty, XCB_ATOM_ATOM);
         if (!std::ranges::count(types.values(), dock))
             continue;
-        const Numbers strut(connection, window, strutProperty, XCB_ATOM_CARDINAL);
-        docks.append({geometryOf(connection, window, root), strips(strut.values(), rootSize)});
+        const Numbers strut(m_connection, window, strutProperty, XCB_ATOM_CARDINAL);
+        docks.append({geometryOf(m_connection, window, root), strips(strut.values(), rootSize)});
+        m_followed.append(window);
+        const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+        xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &events);
     }
     return docks;
+}
+
+bool DockWindows::nativeEventFilter(const QByteArray& type, void* message, qintptr*)
+{
+    if (type != "xcb_generic_event_t")
+        return false;
+    const auto* const event = static_cast<const xcb_configure_notify_event_t*>(message);
+    const int kind = event->response_type & x11::withoutSentFlag;
+    if ((kind == XCB_CONFIGURE_NOTIFY || kind == XCB_MAP_NOTIFY) &&
+        m_followed.contains(event->window))
+        Q_EMIT changed();
+    return false;
 }
 
 } // namespace tarnwick

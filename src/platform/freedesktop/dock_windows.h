@@ -1,8 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QAbstractNativeEventFilter>
 #include <QList>
+#include <QObject>
 #include <QRect>
+
+#include <cstdint>
+
+struct xcb_connection_t;
 
 namespace tarnwick {
 
@@ -14,8 +20,26 @@ struct DockWindow
     QList<QRect> struts = {};
 };
 
-/// The docks that the X11 window manager knows; none on other display systems. Asks the X server
-/// each time: a few round trips.
-[[nodiscard]] QList<DockWindow> dockWindows();
+/// The docks that the X11 window manager knows; none on other display systems.
+class DockWindows : public QObject, private QAbstractNativeEventFilter
+{
+    Q_OBJECT
+
+public:
+    DockWindows();
+
+    /// Asks the X server each time, which takes a few round trips, and follows the windows found.
+    [[nodiscard]] QList<DockWindow> find() const;
+
+Q_SIGNALS:
+    /// A dock that was found has moved, or shows or hides itself.
+    void changed();
+
+private:
+    bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
+
+    xcb_connection_t* const m_connection;
+    mutable QList<std::uint32_t> m_followed;
+};
 
 } // namespace tarnwick

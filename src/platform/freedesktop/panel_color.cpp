@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPixmap>
-#include <QRegion>
 #include <QScreen>
 
 #include <algorithm>
@@ -19,17 +18,6 @@ bool screenCanBeRead()
     // Under a Wayland compositor the X server has no picture of the panel.
     return QGuiApplication::platformName() == u"xcb" &&
            qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-}
-
-/// What windows leave free. Where a bar and a dock both do, status items are in the upper one.
-QRect panelStrip()
-{
-    for (const QScreen* screen : QGuiApplication::screens()) {
-        const QRegion strips = QRegion(screen->geometry()) - screen->availableGeometry();
-        if (!strips.isEmpty())
-            return *strips.begin();
-    }
-    return {};
 }
 
 QImage picture(const QRect& area)
@@ -66,13 +54,10 @@ bool isGnome()
 
 } // namespace
 
-std::optional<QColor> panelColor(const QRect& item)
+std::optional<QColor> panelColor(const QRect& area)
 {
-    if (screenCanBeRead()) {
-        const QRect area = item.isEmpty() ? panelStrip() : item;
-        if (!area.isEmpty())
-            return median(picture(area));
-    }
+    if (screenCanBeRead() && !area.isEmpty())
+        return median(picture(area));
     if (isGnome())
         return Qt::black; // its bar is dark whatever the theme
     return std::nullopt;

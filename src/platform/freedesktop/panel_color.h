@@ -8,9 +8,8 @@
 
 namespace tarnwick {
 
-/// The colour of the desktop's panel: on X11 as seen on the screen, under `item` or, where that is
-/// empty, in the strip that windows leave free. Elsewhere only what is known of the desktop.
-/// Reads pixels back from the X server: a few milliseconds.
-std::optional<QColor> panelColor(const QRect& item);
+/// The colour of the part of a panel that `area` covers: on X11 as seen on the screen, elsewhere
+/// only what is known of the desktop. Reads pixels back from the X server: a few milliseconds.
+[[nodiscard]] std::optional<QColor> panelColor(const QRect& area);
 
 } // namespace tarnwick

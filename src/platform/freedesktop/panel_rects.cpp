@@ -63,4 +63,18 @@ QList<QRect> panelRects(const QList<DockWindow>& docks, const QList<Monitor>& mo
     return all;
 }
 
+QRect areaBehind(const QRect& item, const QList<QRect>& panels)
+{
+    if (!item.isEmpty()) {
+        const bool isHidden =
+            !panels.isEmpty() && std::ranges::none_of(panels, [&item](const QRect& panel) {
+                return panel.intersects(item);
+            });
+        return isHidden ? QRect() : item;
+    }
+    const auto under = std::ranges::find_if(
+        panels, [&item](const QRect& panel) { return panel.contains(item.topLeft()); });
+    return under != panels.end() ? *under : panels.value(0);
+}
+
 } // namespace tarnwick

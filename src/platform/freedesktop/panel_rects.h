@@ -23,4 +23,9 @@ struct Monitor
 [[nodiscard]] QList<QRect> panelRects(const QList<DockWindow>& docks,
                                       const QList<Monitor>& monitors);
 
+/// Where to look for the colour behind a status item: at the item itself, unless its panel is
+/// hidden. An item without size is a point on its panel; the first panel counts where none is
+/// there.
+[[nodiscard]] QRect areaBehind(const QRect& item, const QList<QRect>& panels);
+
 } // namespace tarnwick

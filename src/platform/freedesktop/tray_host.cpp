@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/tray_host.h"
 
-#include "platform/freedesktop/dock_windows.h"
 #include "platform/freedesktop/panel_color.h"
 #include "platform/freedesktop/panel_rects.h"
 
@@ -23,12 +22,13 @@ FreedesktopTrayHost::FreedesktopTrayHost(QObject* parent)
             settle();
     });
     connect(&m_notifier, &StatusNotifierWatcher::stateChanged, this,
-            &FreedesktopTrayHost::lookAgain);
-    connect(&m_tray, &X11Tray::appeared, this, &FreedesktopTrayHost::lookAgain);
-    lookAgain();
+            &FreedesktopTrayHost::reevaluate);
+    connect(&m_docks, &DockWindows::changed, this, &TrayHost::panelsMoved);
+    connect(&m_tray, &X11Tray::appeared, this, &FreedesktopTrayHost::reevaluate);
+    reevaluate();
 }
 
-void FreedesktopTrayHost::lookAgain()
+void FreedesktopTrayHost::reevaluate()
 {
     switch (m_notifier.state()) {
     case StatusNotifierWatcher::State::Unknown:
@@ -42,10 +42,10 @@ void FreedesktopTrayHost::lookAgain()
     }
 }
 
-void FreedesktopTrayHost::waitForHostBeside(std::chrono::milliseconds patience)
+void FreedesktopTrayHost::waitForHostBeside(std::chrono::milliseconds timeout)
 {
     if (m_tray.isPresent())
-        m_trayAlone.start(patience);
+        m_trayAlone.start(timeout);
 }
 
 void FreedesktopTrayHost::settle()
@@ -61,12 +61,12 @@ QList<QRect> FreedesktopTrayHost::panelRects() const
     for (const QScreen* screen : QGuiApplication::screens())
         monitors.append(
             {screen->geometry(), screen->availableGeometry(), screen->devicePixelRatio()});
-    return tarnwick::panelRects(dockWindows(), monitors);
+    return tarnwick::panelRects(m_docks.find(), monitors);
 }
 
 std::optional<QColor> FreedesktopTrayHost::panelColor(const QRect& item) const
 {
-    return tarnwick::panelColor(item);
+    return tarnwick::panelColor(areaBehind(item, panelRects()));
 }
 
 } // namespace tarnwick

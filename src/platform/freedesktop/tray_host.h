@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/freedesktop/dock_windows.h"
 #include "platform/freedesktop/status_notifier_watcher.h"
 #include "platform/freedesktop/x11_tray.h"
 #include "platform/tray_host.h"
@@ -28,12 +29,13 @@ public:
     [[nodiscard]] std::optional<QColor> panelColor(const QRect& item) const override;
 
 private:
-    void lookAgain();
-    void waitForHostBeside(std::chrono::milliseconds patience);
+    void reevaluate();
+    void waitForHostBeside(std::chrono::milliseconds timeout);
     void settle();
 
     StatusNotifierWatcher m_notifier;
     X11Tray m_tray;
+    DockWindows m_docks;
     QTimer m_trayAlone;
     bool m_available = false;
 };

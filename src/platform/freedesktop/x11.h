@@ -9,6 +9,9 @@
 
 namespace tarnwick::x11 {
 
+/// Of an event's `response_type`: the kind of event.
+constexpr int withoutSentFlag = 0x7f;
+
 struct Free
 {
     void operator()(void* reply) const { std::free(reply); }

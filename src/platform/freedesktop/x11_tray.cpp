@@ -35,8 +35,7 @@ bool X11Tray::nativeEventFilter(const QByteArray& type, void* message, qintptr*)
     if (type != "xcb_generic_event_t")
         return false;
     const auto* event = static_cast<const xcb_client_message_event_t*>(message);
-    constexpr int withoutSentFlag = 0x7f;
-    if ((event->response_type & withoutSentFlag) == XCB_CLIENT_MESSAGE &&
+    if ((event->response_type & x11::withoutSentFlag) == XCB_CLIENT_MESSAGE &&
         event->type == m_manager && event->data.data32[1] == m_selection)
         Q_EMIT appeared();
     return false;
