@@ -52,12 +52,12 @@ menu_at_rest() {
 }
 
 row_middle() {
-    "$scripts/accessible_tree.py" tarnwick |
+    "$scripts/accessible_tree.py" Tarnwick |
         awk -F '\t' -v row="$row" -v scale="${TARNWICK_DESKTOP_SCALE:-1}" '$5 == "menu item" && index($6, row) == 1 && !found++ {
             print int(($1 + $3 / 2) * scale), int(($2 + $4 / 2) * scale) }'
 }
 
-open_panel() { "$scripts/accessible_tree.py" tarnwick | grep "push button.Show in Finder" >/dev/null; }
+open_panel() { "$scripts/accessible_tree.py" Tarnwick | grep "push button.Show in Finder" >/dev/null; }
 
 wait_for position item_at_rest
 # shellcheck disable=SC2086 # two numbers

@@ -21,7 +21,7 @@ int main(int argc, char* argv[])
     using namespace tarnwick;
 
     QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("tarnwick"));
+    QApplication::setApplicationName(QStringLiteral("Tarnwick"));
     QApplication::setDesktopFileName(QStringLiteral("org.tarnwick.Tarnwick"));
     // The program lives in the status bar: closing a window is never the end of it.
     QApplication::setQuitOnLastWindowClosed(false);

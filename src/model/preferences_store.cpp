@@ -42,8 +42,8 @@ PreferencesStore::~PreferencesStore()
 
 QString PreferencesStore::defaultFilePath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
-           QStringLiteral("/preferences.json");
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/tarnwick/preferences.json");
 }
 
 bool PreferencesStore::boolForKey(const QString& key) const

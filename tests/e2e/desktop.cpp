@@ -76,7 +76,7 @@ QPoint statusItemPosition()
 
 QList<Accessible> accessibleTree()
 {
-    const QString printed = runScript(u"accessible_tree.py"_s, {u"tarnwick"_s});
+    const QString printed = runScript(u"accessible_tree.py"_s, {u"Tarnwick"_s});
     QList<Accessible> tree;
     for (const QString& line : printed.split(u'\n', Qt::SkipEmptyParts)) {
         const QStringList parts = line.split(u'\t');
