@@ -7,7 +7,6 @@
 #include "platform/platform.h"
 #include "platform/terminal_launcher.h"
 #include "platform/tray_host.h"
-#include "settings/list_accessible.h"
 #include "shell/app_delegate.h"
 #include "shell/menu/status_menu_accessible.h"
 
@@ -34,7 +33,6 @@ int main(int argc, char* argv[])
     }
 
     installMenuAccessibility();
-    installListAccessibility();
 
     PreferencesStore store(PreferencesStore::defaultFilePath());
     CommandRunner runner({.open = platform.openProgram});

@@ -6,11 +6,11 @@
 
 namespace tarnwick {
 
-GreyFrame::GreyFrame(QWidget* content, int inset, QWidget* parent)
+GreyFrame::GreyFrame(QWidget* content, int padding, QWidget* parent)
     : QWidget(parent)
 {
     auto* const layout = new QVBoxLayout(this);
-    const int margin = inset + 1;
+    const int margin = padding + 1;
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->addWidget(content);
 }
@@ -18,7 +18,7 @@ GreyFrame::GreyFrame(QWidget* content, int inset, QWidget* parent)
 void GreyFrame::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    // A pen would be cut in half at the edges of a screen that scales.
+    // Not a pen: half of its line would be clipped where the screen has a scale factor.
     painter.setClipRegion(QRegion(rect()) - rect().adjusted(1, 1, -1, -1));
     painter.fillRect(rect(), Qt::gray);
 }

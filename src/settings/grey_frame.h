@@ -5,14 +5,14 @@
 
 namespace tarnwick {
 
-/// A grey border of one pixel around its content, which keeps the given distance from it.
+/// A container that draws a grey border, one pixel wide, around its content.
 class GreyFrame : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Owns the content.
-    GreyFrame(QWidget* content, int inset, QWidget* parent = nullptr);
+    /// Owns the content. `padding` is the distance in pixels between border and content.
+    GreyFrame(QWidget* content, int padding, QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "settings/save_button.h"
 
+#include <QApplication>
+
 namespace tarnwick {
 
 namespace {
 
-constexpr QSize air{24, 0};
+constexpr int horizontalPadding = 12;
 
 } // namespace
 
@@ -15,7 +17,13 @@ SaveButton::SaveButton(QWidget* parent)
 
 QSize SaveButton::sizeHint() const
 {
-    return QPushButton::sizeHint() + air;
+    return QPushButton::sizeHint() + QSize(2 * horizontalPadding, 0);
+}
+
+void closeKeyWindow()
+{
+    if (QWidget* const window = QApplication::activeWindow())
+        window->close();
 }
 
 } // namespace tarnwick

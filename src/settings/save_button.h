@@ -5,7 +5,7 @@
 
 namespace tarnwick {
 
-/// The button at the end of every window of settings.
+/// The button "Save and close settings" of the settings and the link windows.
 class SaveButton : public QPushButton
 {
     Q_OBJECT
@@ -15,5 +15,8 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
 };
+
+/// Closes this program's active window; does nothing if none of them is active.
+void closeKeyWindow();
 
 } // namespace tarnwick

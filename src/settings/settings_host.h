@@ -7,15 +7,15 @@ namespace tarnwick {
 
 class RepoViewModelDelegate;
 
-/// What the windows of the settings ask of the program that shows them. Main thread only.
+/// The operations that settings and link windows need from the shell. Main thread only.
 class SettingsHost
 {
 public:
     virtual ~SettingsHost() = default;
 
-    /// Builds a new status menu from the list and the preferences as they are now.
+    /// Builds a new status menu from the current list and preferences.
     virtual void rebuildMenu() = 0;
-    /// Registers or unregisters the program for being started at login. Writes no preference.
+    /// Registers or unregisters the program as a login item. Writes no preference.
     virtual void setLaunchAtLogin(bool enabled) = 0;
     /// A delegate for one record that is about to be added to the list.
     [[nodiscard]] virtual std::shared_ptr<RepoViewModelDelegate> newRecordDelegate() = 0;

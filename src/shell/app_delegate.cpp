@@ -6,7 +6,7 @@
 #include "model/repo_manager.h"
 #include "platform/launcher_helper.h"
 #include "platform/platform.h"
-#include "settings/settings_view.h"
+#include "settings/window/settings_view.h"
 #include "shell/application_menu.h"
 #include "shell/content_window.h"
 #include "shell/menu/status_menu.h"

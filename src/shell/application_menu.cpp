@@ -7,7 +7,7 @@
 #include "model/preferences_store.h"
 #include "model/repo_manager.h"
 #include "platform/platform.h"
-#include "settings/link_settings_view.h"
+#include "settings/links/link_settings_view.h"
 #include "shell/content_window.h"
 #include "shell/menu/hosted_row.h"
 #include "shell/menu/hosting_view.h"

@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "views/symbols.h"
 
+#include "views/colors.h"
+
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QGuiApplication>
+#include <QIconEngine>
 #include <QPainter>
+#include <QPalette>
+#include <QPixmap>
 #include <QStringList>
 
 #include <algorithm>
@@ -22,6 +28,36 @@ QString loadSymbolFont()
     const int font = QFontDatabase::addApplicationFontFromData(data);
     return QFontDatabase::applicationFontFamilies(font).value(0);
 }
+
+class SymbolIconEngine : public QIconEngine
+{
+public:
+    explicit SymbolIconEngine(QString glyph)
+        : m_glyph(std::move(glyph))
+    {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
+    {
+        QRect square(QPoint(), QSize(1, 1).scaled(rect.size(), Qt::KeepAspectRatio));
+        square.moveCenter(rect.center());
+        painter->setPen(labelColor(QGuiApplication::palette()));
+        drawSymbol(*painter, square, m_glyph);
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
+    }
+
+    QIconEngine* clone() const override { return new SymbolIconEngine(*this); }
+
+private:
+    const QString m_glyph;
+};
 
 } // namespace
 
@@ -56,6 +92,11 @@ QString symbolNamed(QStringView name)
     const auto* const symbol =
         std::ranges::find_if(namedSymbols, [name](const NamedSymbol& s) { return name == s.name; });
     return symbol == namedSymbols.end() ? QString() : glyphText(symbol->codePoint);
+}
+
+QIcon symbolIcon(QStringView name)
+{
+    return QIcon(new SymbolIconEngine(symbolNamed(name)));
 }
 
 void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph)

@@ -4,6 +4,7 @@
 #include "symbol_table.h"
 
 #include <QFont>
+#include <QIcon>
 #include <QString>
 
 class QPainter;
@@ -25,6 +26,10 @@ namespace tarnwick {
 
 /// The named symbol as text; empty for the empty or an unknown name.
 [[nodiscard]] QString symbolNamed(QStringView name);
+
+/// The named symbol as an icon of any size, in the label colour of the application's palette at the
+/// time of painting.
+[[nodiscard]] QIcon symbolIcon(QStringView name);
 
 /// Fills the square with the glyph, in the painter's pen.
 void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph);

@@ -19,7 +19,7 @@ QStringList listedNames()
     return names;
 }
 
-/// Takes the row by its handle with the real pointer and lets go of it elsewhere.
+/// Drags the row by its handle with the real pointer.
 void drag(const QString& row, QPoint to)
 {
     const QRect area = appeared(row + u", "_s).area;
@@ -37,14 +37,67 @@ void drag(const QString& row, QPoint to)
 
 } // namespace
 
-/// The settings window, used as a person does, up to the menu and the preferences file.
+/// Drives the settings window with pointer and keyboard, and checks menu and preferences file.
 class SettingsE2eTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void listIsEdited();
-    void switchedApplicationIsOffered();
+    void listIsEdited()
+    {
+        const TemporaryRepository first(u"first"_s);
+        const TemporaryRepository second(u"second"_s);
+        const TemporaryRepository typed(u"typed one"_s);
+        RunningProgram program({{u"repos"_s, first.dir() + u'\n' + second.dir()}});
+        const auto stored = [&] {
+            QStringList names;
+            for (const QString& dir :
+                 program.preferences().value(u"repos"_s).toString().split(u'\n'))
+                names += dir.section(u'/', -1);
+            return names.join(u'|');
+        };
+        QVERIFY(openTab(u"Repositories"_s));
+        QVERIFY(clickNamed(u"Path of a repository"_s));
+        xdotool({u"type"_s, u"--delay"_s, u"2"_s, typed.dir()});
+        QVERIFY(clickNamed(u"add repo"_s));
+        QTRY_COMPARE_WITH_TIMEOUT(stored(), u"typed one|first|second"_s, 10000);
+
+        drag(u"second"_s, appeared(u"typed one, "_s).area.center());
+        QTRY_COMPARE_WITH_TIMEOUT(stored(), u"second|typed one|first"_s, 10000);
+        // Dropped outside, the new order is shown but not stored.
+        drag(u"first"_s, appeared(u"second, "_s).area.topLeft() + QPoint(30, -70));
+        QTRY_COMPARE_WITH_TIMEOUT(listedNames().join(u'|'), u"first|second|typed one"_s, 10000);
+        QCOMPARE(stored(), u"second|typed one|first"_s);
+
+        QVERIFY(clickNamed(u"Remove first"_s));
+        QVERIFY(clickNamed(u"Keep it"_s));
+        QTRY_VERIFY(accessibleNamed(u"Please confirm the removal"_s).name.isEmpty());
+        QVERIFY(clickNamed(u"Remove first"_s));
+        QVERIFY(clickNamed(u"Remove it"_s));
+        QTRY_COMPARE_WITH_TIMEOUT(stored(), u"second|typed one"_s, 10000);
+        QVERIFY(clickNamed(u"Save and close settings"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(accessibleNamed(u"Settings"_s).name.isEmpty(), 10000);
+        QVERIFY(openMenu());
+        QTRY_COMPARE_WITH_TIMEOUT(menuRows(),
+                                  (QStringList{u"second, branch main, Repo is clean"_s,
+                                               u"typed one, branch main, Repo is clean"_s}),
+                                  10000);
+        key(u"Escape"_s);
+    }
+
+    void switchedApplicationIsOffered()
+    {
+        const TemporaryRepository repository;
+        const RunningProgram program({{u"repos"_s, repository.dir()}});
+        QVERIFY(openTab(u"Applications"_s));
+        QVERIFY(clickNamed(u"XTerm.app"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(program.preferences().value(u"showinapps___XTerm.app"_s).toBool(),
+                                 10000);
+        QVERIFY(clickNamed(u"Save and close settings"_s));
+        QVERIFY(openPanel(u"repo"_s));
+        QVERIFY(!accessibleNamed(u"Open in XTerm"_s).name.isEmpty());
+        xdotool({u"key"_s, u"Escape"_s, u"Escape"_s});
+    }
 
 private:
     [[nodiscard]] static bool openTab(const QString& tab)
@@ -53,61 +106,6 @@ private:
                clickNamed(tab);
     }
 };
-
-void SettingsE2eTest::listIsEdited()
-{
-    const TemporaryRepository first(u"first"_s);
-    const TemporaryRepository second(u"second"_s);
-    const TemporaryRepository typed(u"typed one"_s);
-    RunningProgram program({{u"repos"_s, first.dir() + u'\n' + second.dir()}});
-    const auto stored = [&] {
-        QStringList names;
-        for (const QString& dir : program.preferences().value(u"repos"_s).toString().split(u'\n'))
-            names += dir.section(u'/', -1);
-        return names.join(u'|');
-    };
-    QVERIFY(openTab(u"Repositories"_s));
-    QVERIFY(clickNamed(u"Path of a repository"_s));
-    xdotool({u"type"_s, u"--delay"_s, u"2"_s, typed.dir()});
-    QVERIFY(clickNamed(u"add repo"_s));
-    QTRY_COMPARE_WITH_TIMEOUT(stored(), u"typed one|first|second"_s, 10000);
-
-    drag(u"second"_s, appeared(u"typed one, "_s).area.center());
-    QTRY_COMPARE_WITH_TIMEOUT(stored(), u"second|typed one|first"_s, 10000);
-    // Let go outside, the new order shows but is not stored.
-    drag(u"first"_s, appeared(u"second, "_s).area.topLeft() + QPoint(30, -70));
-    QTRY_COMPARE_WITH_TIMEOUT(listedNames().join(u'|'), u"first|second|typed one"_s, 10000);
-    QCOMPARE(stored(), u"second|typed one|first"_s);
-
-    QVERIFY(clickNamed(u"Remove first"_s));
-    QVERIFY(clickNamed(u"Keep it"_s));
-    QTRY_VERIFY(accessibleNamed(u"Please confirm the removal"_s).name.isEmpty());
-    QVERIFY(clickNamed(u"Remove first"_s));
-    QVERIFY(clickNamed(u"Remove it"_s));
-    QTRY_COMPARE_WITH_TIMEOUT(stored(), u"second|typed one"_s, 10000);
-    QVERIFY(clickNamed(u"Save and close settings"_s));
-    QTRY_VERIFY_WITH_TIMEOUT(accessibleNamed(u"Settings"_s).name.isEmpty(), 10000);
-    QVERIFY(openMenu());
-    QTRY_COMPARE_WITH_TIMEOUT(menuRows(),
-                              (QStringList{u"second, branch main, Repo is clean"_s,
-                                           u"typed one, branch main, Repo is clean"_s}),
-                              10000);
-    key(u"Escape"_s);
-}
-
-void SettingsE2eTest::switchedApplicationIsOffered()
-{
-    const TemporaryRepository repository;
-    const RunningProgram program({{u"repos"_s, repository.dir()}});
-    QVERIFY(openTab(u"Applications"_s));
-    QVERIFY(clickNamed(u"XTerm.app"_s));
-    QTRY_VERIFY_WITH_TIMEOUT(program.preferences().value(u"showinapps___XTerm.app"_s).toBool(),
-                             10000);
-    QVERIFY(clickNamed(u"Save and close settings"_s));
-    QVERIFY(openPanel(u"repo"_s));
-    QVERIFY(!accessibleNamed(u"Open in XTerm"_s).name.isEmpty());
-    xdotool({u"key"_s, u"Escape"_s, u"Escape"_s});
-}
 
 TARNWICK_TEST(SettingsE2eTest)
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "settings/reorderable_for_each.h"
+#include "settings/reorder/reorderable_for_each.h"
 #include "support/test_registry.h"
 
 using namespace tarnwick::test;
@@ -38,7 +38,7 @@ struct List
 
 } // namespace
 
-/// The reordering of a list of letters.
+/// Reorders a list of letters.
 class ReorderTest : public QObject
 {
     Q_OBJECT
@@ -53,11 +53,11 @@ private Q_SLOTS:
         row("to the neighbour and back", u"abc"_s, u'a', u"bab"_s, u"abc"_s, u"a"_s);
         row("down row by row", u"abcd"_s, u'a', u"bacad"_s, u"bcda"_s, u"a"_s);
         row("over its own row", u"abc"_s, u'b', u"bb"_s, u"abc"_s, u""_s);
-        row("not left at all", u"abc"_s, u'b', u""_s, u"abc"_s, u""_s);
+        row("no row entered", u"abc"_s, u'b', u""_s, u"abc"_s, u""_s);
         row("of equals the first moves", u"aba"_s, u'a', u"b"_s, u"baa"_s, u"aa"_s);
-        row("of equals the first is gone to", u"abb"_s, u'a', u"b"_s, u"bab"_s, u"a"_s);
-        row("its item is gone", u"abc"_s, u'x', u"b"_s, u"abc"_s, u""_s);
-        row("the row's item is gone", u"abc"_s, u'a', u"x"_s, u"abc"_s, u""_s);
+        row("of equals the first is the target", u"abb"_s, u'a', u"b"_s, u"bab"_s, u"a"_s);
+        row("dragged item removed", u"abc"_s, u'x', u"b"_s, u"abc"_s, u""_s);
+        row("target item removed", u"abc"_s, u'a', u"x"_s, u"abc"_s, u""_s);
     }
 
     void drags()
@@ -79,7 +79,7 @@ private Q_SLOTS:
             QCOMPARE(row->dropUpdated(), Qt::MoveAction);
             row->dropExited();
         }
-        // So it stays when the drag ends outside.
+        // The state after a drag that ends outside.
         QCOMPARE(list.shown, after);
         QTEST(list.marked(), "marked");
         QCOMPARE(list.stored, QString());
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QVERIFY(!list.reorder.draggedItem);
     }
 
-    void marksWhatIsDraggedNow()
+    void marksOnlyDraggedItem()
     {
         List list(u"abc"_s);
         list.reorder.onDrag(u'a');

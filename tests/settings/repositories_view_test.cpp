@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "settings/reorderable_column.h"
-#include "settings/repository_row.h"
+#include "settings/reorder/reorderable_column.h"
 #include "settings/settings_fixture.h"
+#include "settings/window/repository_row.h"
 #include "support/test_registry.h"
 
 #include <QApplication>
@@ -37,7 +37,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
     }
 
-    void addsWhatIsTyped()
+    void addsTypedText()
     {
         auto* const path = m_view->findChild<QLineEdit*>();
         auto* const add = row(0)->window()->findChildren<QPushButton*>().first();
@@ -53,7 +53,7 @@ private Q_SLOTS:
         QCOMPARE(shown(*m_other), shown(*m_view));
     }
 
-    void removesAllOfADirectory()
+    void removesAllRecordsOfDirectory()
     {
         QCOMPARE(row(1)->findChild<QToolButton*>()->accessibleName(), u"Remove b"_s);
         answer(1, u"Keep it"_s);
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget(), m_view->findChild<QLineEdit*>());
     }
 
-    void dropStoresWhatTheDragMoved()
+    void dropStoresDraggedOrder()
     {
         QVERIFY(drag<QDragEnterEvent>(0));
         QVERIFY(drag<QDragMoveEvent>(1));

@@ -5,7 +5,7 @@
 #include "model/repo_manager.h"
 #include "platform/plain_application_folder.h"
 #include "settings/settings_host.h"
-#include "settings/settings_view.h"
+#include "settings/window/settings_view.h"
 #include "support/table.h"
 #include "support/workbench.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "settings/app_list.h"
 #include "settings/settings_fixture.h"
+#include "settings/window/app_list.h"
 #include "support/test_registry.h"
 #include "views/app_icon.h"
 
@@ -28,7 +28,7 @@ class SettingsViewTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void optionsFollowTheStore()
+    void optionsFollowStore()
     {
         SettingsFixture f;
         const auto one = f.view();
@@ -58,7 +58,7 @@ private Q_SLOTS:
         QCOMPARE(f.host.rebuilds, 0);
     }
 
-    void savingClosesOnlyTheKeyWindow()
+    void saveClosesOnlyKeyWindow()
     {
         SettingsFixture f;
         const auto one = f.view();
@@ -79,7 +79,7 @@ private Q_SLOTS:
         const auto row = table<QString, QString, QString>("system", "user", "expected");
         row("by character code, applications only", u"b.app notes.txt Utilities A.app C.APP"_s,
             u"."_s, u"A.app b.app"_s);
-        row("one part after the other, doubles too", u"z.app m.app"_s, u"m.app a.app"_s,
+        row("system before user, with duplicates", u"z.app m.app"_s, u"m.app a.app"_s,
             u"m.app z.app a.app m.app"_s);
         row("unreadable", u"a.app"_s, {}, u"a.app Unable to read %1/user/*.app"_s);
         row("both unreadable", {}, {},

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/bound_setting.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace tarnwick {
+
+class LaunchAtLoginFollower;
+class SettingsHost;
+
+/// The tab "Settings": four check boxes bound to their preferences. A click is stored at once, and
+/// a change made elsewhere is shown at once. The default of an absent preference is never written.
+class GeneralOptionsView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    GeneralOptionsView(PreferencesStore& store, SettingsHost& host, QWidget* parent = nullptr);
+
+private:
+    [[nodiscard]] QWidget* newCheckBox(const QString& text, BoundSetting& setting);
+
+    BoundSetting m_launchOnStartup;
+    BoundSetting m_refreshOnMenuOpen;
+    BoundSetting m_showCleanRepoStatus;
+    BoundSetting m_onlyIcons;
+    const std::shared_ptr<LaunchAtLoginFollower> m_launchAtLogin;
+};
+
+} // namespace tarnwick
