@@ -11,7 +11,7 @@
 
 using namespace tarnwick::test;
 
-/// The real program, packaged for another feed and key, against a real server.
+/// The installed program, with another feed URL and key, and a real server.
 class UpdatesE2eTest : public QObject
 {
     Q_OBJECT
@@ -19,58 +19,53 @@ class UpdatesE2eTest : public QObject
 private Q_SLOTS:
     void cleanup() { key(u"Escape"_s); }
 
-    void downloadIsVerifiedAndOpened_data();
-    void downloadIsVerifiedAndOpened();
-};
+    void downloadIsVerifiedAndOpened_data()
+    {
+        const auto row = table<QByteArray, QString, bool>("served", "conclusion", "isKept");
+        row("genuine", "the new version", u"Tarnwick 1.3 has been downloaded"_s, true);
+        row("tampered", "the bad version", u"The new version could not be downloaded"_s, false);
+    }
 
-void UpdatesE2eTest::downloadIsVerifiedAndOpened_data()
-{
-    QTest::addColumn<QByteArray>("served");
-    QTest::addColumn<QString>("conclusion");
-    QTest::addColumn<bool>("isKept");
-    QTest::newRow("genuine") << QByteArray("the new version")
-                             << u"Tarnwick 1.3 has been downloaded"_s << true;
-    QTest::newRow("tampered") << QByteArray("the bad version")
-                              << u"The new version could not be downloaded"_s << false;
-}
+    void downloadIsVerifiedAndOpened()
+    {
+        QFETCH(QByteArray, served);
+        QFETCH(QString, conclusion);
+        QFETCH(bool, isKept);
+        const OutsideWorld world;
+        const SignedUpdate update("the new version");
+        LoopbackServer server;
+        const QByteArray package = server.url("/files/tarnwick-10.txt").toEncoded();
+        server.answer("/feed", LoopbackServer::bytes(update.feed(package)));
+        server.answer("/files/tarnwick-10.txt", LoopbackServer::bytes(served));
 
-void UpdatesE2eTest::downloadIsVerifiedAndOpened()
-{
-    QFETCH(QByteArray, served);
-    QFETCH(QString, conclusion);
-    QFETCH(bool, isKept);
-    const OutsideWorld world;
-    const SignedUpdate update("the new version");
-    LoopbackServer server;
-    const QByteArray package = server.url("/files/tarnwick-10.txt").toEncoded();
-    server.answer("/feed", LoopbackServer::bytes(update.feed(package)));
-    server.answer("/files/tarnwick-10.txt", LoopbackServer::bytes(served));
-
-    QProcess::execute(u"cp"_s, {u"-a"_s, QStringLiteral(TARNWICK_INSTALLED), world.path(u"app"_s)});
-    writeFile(
-        world.path(u"app/share/tarnwick/Info.json"_s),
-        QJsonDocument(QJsonObject{{u"CFBundleIdentifier"_s, u"org.tarnwick.Tarnwick"_s},
+        QProcess::execute(u"cp"_s,
+                          {u"-a"_s, QStringLiteral(TARNWICK_INSTALLED), world.path(u"app"_s)});
+        writeFile(world.path(u"app/share/tarnwick/Info.json"_s),
+                  QJsonDocument(
+                      QJsonObject{{u"CFBundleIdentifier"_s, u"org.tarnwick.Tarnwick"_s},
                                   {u"CFBundleVersion"_s, u"9"_s},
                                   {u"SUFeedURL"_s, server.url("/feed").toString()},
                                   {u"SUPublicEDKey"_s, QString::fromLatin1(update.publicKey())}})
-            .toJson());
-    const RunningProgram program({}, world.variables(), world.path(u"app/bin/tarnwick"_s));
-    QVERIFY(openMenu());
-    QVERIFY(clickNamed(u"Check for updates"_s));
-    QVERIFY(windowIsActive(u"Software Update"_s));
-    QVERIFY(clickNamed(u"Download"_s));
-    QVERIFY(!appeared(conclusion).name.isEmpty());
+                      .toJson());
+        const RunningProgram program({}, world.variables(), world.path(u"app/bin/tarnwick"_s));
+        QVERIFY(openMenu());
+        QVERIFY(clickNamed(u"Check for updates"_s));
+        QVERIFY(windowIsActive(u"Software Update"_s));
+        QVERIFY(clickNamed(u"Download"_s));
+        QVERIFY(!appeared(conclusion).name.isEmpty());
 
-    const QString file = world.path(u"home/Downloads/tarnwick-10.txt"_s);
-    const auto files = QDir(world.path(u"home/Downloads"_s)).entryList(QDir::Files | QDir::Hidden);
-    QCOMPARE(files, isKept ? QStringList{u"tarnwick-10.txt"_s} : QStringList());
-    QTRY_COMPARE_WITH_TIMEOUT(
-        world.started(),
-        isKept ? QStringList{u"<app><--open><%1><--name><Recorder><end>"_s.arg(file)}
-               : QStringList(),
-        10000);
-    QVERIFY(clickNamed(u"Close"_s));
-}
+        const QString file = world.path(u"home/Downloads/tarnwick-10.txt"_s);
+        const auto files =
+            QDir(world.path(u"home/Downloads"_s)).entryList(QDir::Files | QDir::Hidden);
+        QCOMPARE(files, isKept ? QStringList{u"tarnwick-10.txt"_s} : QStringList());
+        QTRY_COMPARE_WITH_TIMEOUT(
+            world.started(),
+            isKept ? QStringList{u"<app><--open><%1><--name><Recorder><end>"_s.arg(file)}
+                   : QStringList(),
+            10000);
+        QVERIFY(clickNamed(u"Close"_s));
+    }
+};
 
 TARNWICK_TEST(UpdatesE2eTest)
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/updates/appcast.h"
-#include "shell/updates/safe_file_name.h"
-#include "shell/updates/trusted_address.h"
-#include "shell/updates/version_comparison.h"
+#include "shell/updates/partial_file.h"
+#include "shell/updates/url_policy.h"
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 
@@ -16,14 +15,14 @@ private Q_SLOTS:
     void versions_data()
     {
         const auto row = table<QString, QString, bool>("older", "newer", "areEqual");
-        row("number", u"1.9"_s, u"1.10"_s, false);
+        row("numeric", u"1.9"_s, u"1.10"_s, false);
         row("shorter", u"1.9.9"_s, u"2"_s, false);
         row("beta", u"1.0b2"_s, u"1.0"_s, false);
-        row("number of beta", u"1.0b2"_s, u"1.0b10"_s, false);
+        row("beta number", u"1.0b2"_s, u"1.0b10"_s, false);
         row("letters", u"1.0-beta3"_s, u"1.0-rc1"_s, false);
-        row("beta of an older", u"1.0b2"_s, u"1.0.1"_s, false);
+        row("beta of previous version", u"1.0b2"_s, u"1.0.1"_s, false);
         row("longer", u"1.0"_s, u"1.0.0.1"_s, false);
-        row("huge", u"99999999999999999998"_s, u"99999999999999999999"_s, false);
+        row("beyond 64 bits", u"99999999999999999998"_s, u"99999999999999999999"_s, false);
         row("empty", {}, u"0.1"_s, false);
         row("zeros", u"1"_s, u"1.0.0"_s, true);
         row("leading zero", u"1.02"_s, u"1.2"_s, true);
@@ -46,7 +45,7 @@ private Q_SLOTS:
             R"(<rss xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel>)";
         const QByteArray end = "</channel></rss>";
         const QByteArray ten = "<sparkle:version>10</sparkle:version>";
-        // What stands in one item, beside another of version 9.
+        // A feed with one item of that content and one of version 9.
         const auto item = [&](const QByteArray& content) {
             return start + "<item>" + content +
                    "</item><item><sparkle:version>9</sparkle:version></item>" + end;
@@ -54,26 +53,27 @@ private Q_SLOTS:
 
         row("highest", item(ten), "10");
         row("attribute", item("<enclosure sparkle:version='10'/>"), "10");
-        row("another channel", item(ten + "<sparkle:channel>beta</sparkle:channel>"), "9");
-        row("another system", item(ten + "<sparkle:os>macos</sparkle:os>"), "9");
-        row("enclosure of another", item(ten + "<enclosure sparkle:os='windows'/>"), "9");
+        row("other channel", item(ten + "<sparkle:channel>beta</sparkle:channel>"), "9");
+        row("other system", item(ten + "<sparkle:os>macos</sparkle:os>"), "9");
+        row("enclosure for other system", item(ten + "<enclosure sparkle:os='windows'/>"), "9");
         row("second enclosure",
             item("<enclosure sparkle:os='windows'/><enclosure sparkle:version='10' "
                  "sparkle:os='Linux'/>"),
             "10");
         row("deltas", item("<sparkle:deltas><enclosure sparkle:version='10'/></sparkle:deltas>"),
             "9");
-        row("foreign", item("<version>10</version><x:version xmlns:x='urn:x'>10</x:version>"), "9");
+        row("other namespaces",
+            item("<version>10</version><x:version xmlns:x='urn:x'>10</x:version>"), "9");
         row("nothing newer", start + "<item><sparkle:version>8.0</sparkle:version></item>" + end,
             "none");
         row("no item", start + end, "no feed");
         row("truncated", start + "<item>" + ten + "</item><item>", "no feed");
-        row("something after it", item(ten) + "<rss/>", "no feed");
-        row("very deep", start + "<item>" + QByteArray("<description>").repeated(300'000),
+        row("second root", item(ten) + "<rss/>", "no feed");
+        row("deeply nested", start + "<item>" + QByteArray("<description>").repeated(300'000),
             "no feed");
-        row("endless tag", item(ten + "<x a='" + QByteArray(40'000, '>') + "'/>"), "no feed");
+        row("overlong tag", item(ten + "<x a='" + QByteArray(40'000, '>') + "'/>"), "no feed");
         row("web page", "<!DOCTYPE html><html><body>Sign in</body></html>", "no feed");
-        row("harmless document type", "<!DOCTYPE rss>" + item(ten), "10");
+        row("document type", "<!DOCTYPE rss>" + item(ten), "10");
         row("entities", "<!DOCTYPE rss [<!ENTITY a 'a'><!ENTITY b '&a;&a;'>]>" + item(ten),
             "no feed");
         row("parameter entity",
@@ -113,16 +113,16 @@ private Q_SLOTS:
         QCOMPARE(item.signature, "c2ln");
     }
 
-    void addresses()
+    void trustedUrls()
     {
         for (const auto* url : {"https://example.org/a", "http://127.9.8.7:80/a", "http://[::1]/a",
                                 "http://LOCALHOST/a"})
-            QVERIFY2(isTrustedAddress(QUrl::fromEncoded(url)), url);
+            QVERIFY2(isTrustedUrl(QUrl::fromEncoded(url)), url);
         for (const auto* url :
              {"", "http://example.org/a", "http://localhost.example.org/", "ftp://localhost/a",
               "http://127.0.0.1.nip.io/", "http://localhost@example.org/", "http://0.0.0.0/",
               "file:///etc/passwd", "https:///a", "//localhost/a"})
-            QVERIFY2(!isTrustedAddress(QUrl::fromEncoded(url)), url);
+            QVERIFY2(!isTrustedUrl(QUrl::fromEncoded(url)), url);
     }
 
     void fileNames()

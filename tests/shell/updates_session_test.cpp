@@ -25,7 +25,7 @@ private Q_SLOTS:
                       m_folder->filePath(u"downloads"_s)};
     }
 
-    void aGoodUpdateIsSavedAndOpened()
+    void downloadIsVerifiedSavedAndOpened()
     {
         m_server.answer("/feed", LoopbackServer::bytes(m_update.feed("pkg/Tarnwick%201.3.deb")));
         m_server.answer("/pkg/Tarnwick%201.3.deb", LoopbackServer::redirect("/elsewhere"));
@@ -48,67 +48,68 @@ private Q_SLOTS:
         QVERIFY(!file.permissions().testAnyFlag(QFile::ExeOwner));
 
         m_settings.downloadFolder = session.savedPath();
-        UpdateSession other(m_settings);
-        other.start();
-        QTRY_COMPARE(other.state(), State::Offering);
-        other.download();
-        QCOMPARE(other.state(), State::Failed);
-        QVERIFY2(other.error().contains(u"cannot be saved in"_s), qPrintable(other.error()));
+        UpdateSession second(m_settings);
+        second.start();
+        QTRY_COMPARE(second.state(), State::Offering);
+        second.download();
+        QCOMPARE(second.state(), State::Failed);
+        QVERIFY2(second.error().contains(u"cannot be saved in"_s), qPrintable(second.error()));
     }
 
-    /// In each row the update is good but for one thing: another feed or key, or a part of the
+    /// Each row changes one thing of a valid update: the feed's path, the key or a text in the
     /// feed.
-    void failuresAreToldAndLeaveNothing_data()
+    void failuresAreReportedAndLeaveNoFile_data()
     {
         const auto row = table<QByteArray, QByteArray, QByteArray, QByteArray, QString>(
-            "feed", "publicKey", "written", "instead", "error");
+            "feed", "publicKey", "search", "replacement", "error");
         const QByteArray key = m_update.publicKey();
         row("no feed", "/missing", key, {}, {}, u"refused the request (error 404)"_s);
         row("web page", "/html", key, {}, {}, u"cannot be read"_s);
-        row("long feed", "/long", key, {}, {}, u"more than it should"_s);
-        row("half a feed", "/broken", key, {}, {}, u"broke the connection off"_s);
-        row("led astray", "/away", key, {}, {}, u"not secure: http://192.0.2.1"_s);
-        row("led in circles", "/loop", key, {}, {}, u"without end"_s);
+        row("feed too long", "/long", key, {}, {}, u"more than it should"_s);
+        row("truncated feed", "/truncated", key, {}, {}, u"broke the connection off"_s);
+        row("redirect to http", "/to-http", key, {}, {}, u"not secure: http://192.0.2.1"_s);
+        row("redirect loop", "/loop", key, {}, {}, u"without end"_s);
         row("no key", "/feed", {}, {}, {}, u"without the key"_s);
         row("short key", "/feed", key.mid(4), {}, {}, u"without the key"_s);
         const QByteArray length = "length=\"" + QByteArray::number(m_update.content().size());
         row("unsigned", "/feed", key, m_update.signature(), {}, u"not signed"_s);
         row("no length", "/feed", key, length, "x=\"", u"size"_s);
         row("negative length", "/feed", key, length, "length=\"-1", u"size"_s);
-        row("huge", "/feed", key, length, "length=\"2147483649", u"size"_s);
-        row("elsewhere", "/feed", key, "url=\"", "url=\"http://192.0.2.1/", u"no secure address"_s);
-        row("nowhere", "/feed", key, "url=", "x=", u"no secure address"_s);
+        row("length too large", "/feed", key, length, "length=\"2147483649", u"size"_s);
+        row("http URL", "/feed", key, "url=\"", "url=\"http://192.0.2.1/", u"no secure address"_s);
+        row("no URL", "/feed", key, "url=", "x=", u"no secure address"_s);
         row("tampered", "/feed", key, "url=\"pkg", "url=\"tampered", u"damaged"_s);
         row("shorter", "/feed", key, "url=\"pkg", "url=\"shorter", u"damaged"_s);
         row("longer", "/feed", key, "url=\"pkg", "url=\"longer", u"more than it should"_s);
-        row("half", "/feed", key, "url=\"pkg", "url=\"broken", u"broke the connection off"_s);
+        row("truncated", "/feed", key, "url=\"pkg", "url=\"truncated",
+            u"broke the connection off"_s);
     }
 
-    void failuresAreToldAndLeaveNothing()
+    void failuresAreReportedAndLeaveNoFile()
     {
         QFETCH(QByteArray, feed);
         QFETCH(QByteArray, publicKey);
-        QFETCH(QByteArray, written);
-        QFETCH(QByteArray, instead);
+        QFETCH(QByteArray, search);
+        QFETCH(QByteArray, replacement);
         QFETCH(QString, error);
 
-        const QByteArray& good = m_update.content();
+        const QByteArray& content = m_update.content();
         const QByteArray name = "/Tarnwick%201.3.deb";
         m_server.answer("/html", LoopbackServer::bytes("<html><p>Sign in</p></html>", "200 OK",
                                                        "Content-Type: text/html"));
         m_server.answer("/long", LoopbackServer::bytes(QByteArray(1024 * 1024 + 1, ' ')));
-        m_server.answer("/broken", LoopbackServer::brokenOff("<rss>"));
-        m_server.answer("/away", LoopbackServer::redirect("http://192.0.2.1/feed"));
+        m_server.answer("/truncated", LoopbackServer::truncated("<rss>"));
+        m_server.answer("/to-http", LoopbackServer::redirect("http://192.0.2.1/feed"));
         m_server.answer("/loop", LoopbackServer::redirect("/loop"));
-        m_server.answer("/pkg" + name, LoopbackServer::bytes(good));
-        m_server.answer("/tampered" + name, LoopbackServer::bytes('y' + good.mid(1)));
-        m_server.answer("/shorter" + name, LoopbackServer::bytes(good.chopped(1)));
-        m_server.answer("/longer" + name, LoopbackServer::bytes(good + '!'));
-        m_server.answer("/broken" + name, LoopbackServer::brokenOff(good.left(100)));
-        QByteArray announced = m_update.feed("pkg" + name);
-        if (!written.isEmpty())
-            announced.replace(written, instead);
-        m_server.answer("/feed", LoopbackServer::bytes(announced));
+        m_server.answer("/pkg" + name, LoopbackServer::bytes(content));
+        m_server.answer("/tampered" + name, LoopbackServer::bytes('y' + content.mid(1)));
+        m_server.answer("/shorter" + name, LoopbackServer::bytes(content.chopped(1)));
+        m_server.answer("/longer" + name, LoopbackServer::bytes(content + '!'));
+        m_server.answer("/truncated" + name, LoopbackServer::truncated(content.left(100)));
+        QByteArray changed = m_update.feed("pkg" + name);
+        if (!search.isEmpty())
+            changed.replace(search, replacement);
+        m_server.answer("/feed", LoopbackServer::bytes(changed));
 
         m_settings.feed = m_server.url(feed);
         m_settings.publicKey = publicKey;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/updates/appcast.h"
-#include "shell/updates/notes_view.h"
+#include "shell/updates/release_notes_view.h"
 #include "shell/updates/update_window.h"
-#include "shell/updates/updater_controller.h"
+#include "shell/updates/updater.h"
 #include "support/loopback_server.h"
 #include "support/pixels.h"
 #include "support/signed_update.h"
@@ -25,7 +25,7 @@ QWidgetList windows()
     return widgets;
 }
 
-QStringList shown(const QWidget& window)
+QStringList labelTexts(const QWidget& window)
 {
     QStringList texts;
     for (const auto* label : window.findChildren<QLabel*>())
@@ -33,7 +33,7 @@ QStringList shown(const QWidget& window)
     return texts;
 }
 
-void press(const QWidget& window, const QString& text)
+void clickButton(const QWidget& window, const QString& text)
 {
     for (auto* const button : window.findChildren<QPushButton*>()) {
         if (button->isVisible() && button->text() == text)
@@ -68,35 +68,36 @@ private Q_SLOTS:
         updater.checkForUpdates();
         QCOMPARE(windows().size(), 1);
         QVERIFY(!updater.canCheckForUpdates());
-        QTRY_VERIFY(shown(*windows().first()).contains(u"Tarnwick 10 is the newest version."_s));
+        QTRY_VERIFY(
+            labelTexts(*windows().first()).contains(u"Tarnwick 10 is the newest version."_s));
         QTest::keyClick(windows().first(), Qt::Key_Escape);
         QTRY_VERIFY(updater.canCheckForUpdates());
         QCOMPARE(changes, QList<QVariantList>({{true}, {false}, {true}}));
 
         updater.checkForUpdates();
         controller.reset();
-        QTRY_VERIFY(shown(*windows().first()).contains(u"You are up to date"_s));
-        press(*windows().first(), u"Close"_s);
+        QTRY_VERIFY(labelTexts(*windows().first()).contains(u"You are up to date"_s));
+        clickButton(*windows().first(), u"Close"_s);
         QTRY_COMPARE(windows().size(), 0);
     }
 
-    void canBeCancelledAnyTime()
+    void canBeCancelledAtAnyTime()
     {
         m_settings.buildNumber = u"9"_s;
         m_server.answer("/pkg",
                         [](QTcpSocket& client) { client.write("HTTP/1.1 200 OK\r\n\r\nco"); });
-        for (const bool isFeedSilent : {true, false}) {
-            m_server.answer("/feed", isFeedSilent ? LoopbackServer::silence()
-                                                  : LoopbackServer::bytes(m_update.feed("pkg")));
+        for (const bool isFeedPending : {true, false}) {
+            m_server.answer("/feed", isFeedPending ? LoopbackServer::noResponse()
+                                                   : LoopbackServer::bytes(m_update.feed("pkg")));
             StandardUpdaterController controller(m_settings, true);
             controller.updater().checkForUpdates();
             const QWidget& window = *windows().first();
-            if (!isFeedSilent) {
-                QTRY_VERIFY(shown(window).contains(u"Tarnwick 1.3 is available"_s));
-                press(window, u"Download"_s);
-                QTRY_VERIFY(shown(window).contains(u"2 bytes of 7 bytes"_s));
+            if (!isFeedPending) {
+                QTRY_VERIFY(labelTexts(window).contains(u"Tarnwick 1.3 is available"_s));
+                clickButton(window, u"Download"_s);
+                QTRY_VERIFY(labelTexts(window).contains(u"2 bytes of 7 bytes"_s));
             }
-            press(window, u"Cancel"_s);
+            clickButton(window, u"Cancel"_s);
             QTRY_VERIFY(controller.updater().canCheckForUpdates());
             QTRY_VERIFY(windows().isEmpty());
         }
@@ -104,7 +105,7 @@ private Q_SLOTS:
             QDir(m_folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     }
 
-    void checksNothingWithoutASecureFeed()
+    void isDisabledWithoutATrustedFeed()
     {
         for (const auto* feed : {"", "http://example.org/feed"}) {
             m_settings.feed = QUrl::fromEncoded(feed);
@@ -112,7 +113,7 @@ private Q_SLOTS:
         }
     }
 
-    void notesLoadNoFiles()
+    void releaseNotesLoadNoFiles()
     {
         QImage picture(50, 50, QImage::Format_RGB32);
         picture.fill(Qt::magenta);
@@ -122,7 +123,7 @@ private Q_SLOTS:
         AppcastItem item;
         item.notes = u"<p>Notes<img src='%1'><img src='file://%1'></p><table><tr>"
                      "<td style='background-image: url(%1)'>x</td></tr></table>"_s.arg(file);
-        NotesView view;
+        ReleaseNotesView view;
         view.showNotes(item);
         view.resize(400, 300);
         QVERIFY(!showsColor(view.grab().toImage(), Qt::magenta));

@@ -10,8 +10,8 @@
 
 namespace tarnwick::test {
 
-/// A web server for this computer only. Each path has its answer, one per connection; what has none
-/// is answered with 404. Needs the event loop of its thread.
+/// An HTTP server on 127.0.0.1. Each path has one answer, all others get 404; each connection is
+/// closed after its answer. Needs the event loop of its thread.
 class LoopbackServer
 {
 public:
@@ -52,12 +52,12 @@ public:
     {
         return bytes("A page that says where to go.", "302 Found", "Location: " + target);
     }
-    /// Ends before the announced length.
-    [[nodiscard]] static Answer brokenOff(const QByteArray& begin)
+    /// Closes the connection before the announced length.
+    [[nodiscard]] static Answer truncated(const QByteArray& begin)
     {
         return bytes(begin, "200 OK", "Content-Length: 1000000");
     }
-    [[nodiscard]] static Answer silence()
+    [[nodiscard]] static Answer noResponse()
     {
         return [](QTcpSocket&) {};
     }

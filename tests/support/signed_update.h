@@ -7,7 +7,7 @@
 
 namespace tarnwick::test {
 
-/// A download made by the owner of a new key, and the feed that announces it as version 10.
+/// A package signed with a new key, and the feed that announces it as version 10.
 class SignedUpdate
 {
 public:

@@ -4,7 +4,7 @@
 #include "model/bundle_info.h"
 #include "shell/top_row/check_for_updates_view.h"
 #include "shell/top_row/glyph_button.h"
-#include "shell/updates/updater_controller.h"
+#include "shell/updates/updater.h"
 #include "views/colors.h"
 #include "views/symbols.h"
 #include "views/text_line.h"

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/updates/appcast.h"
 
-#include "shell/updates/version_comparison.h"
-
 #include <QSysInfo>
 #include <QXmlStreamReader>
 
@@ -15,8 +13,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QStringView sparkle = u"http://www.andymatuschak.org/xml-namespaces/sparkle";
-constexpr qsizetype longestTag = 32'768;
-constexpr qsizetype longestVersion = 64;
+constexpr qsizetype maxTagLength = 32'768;
+constexpr qsizetype maxVersionLength = 64;
 
 struct Enclosure
 {
@@ -38,20 +36,20 @@ struct RawItem
 
 Enclosure enclosureFrom(const QXmlStreamAttributes& attributes)
 {
-    const auto own = [&](QStringView name) {
+    const auto sparkleValue = [&](QStringView name) {
         return attributes.value(sparkle.toString(), name.toString()).trimmed().toString();
     };
-    return {.system = own(u"os"),
-            .version = own(u"version"),
-            .shortVersion = own(u"shortVersionString"),
+    return {.system = sparkleValue(u"os"),
+            .version = sparkleValue(u"version"),
+            .shortVersion = sparkleValue(u"shortVersionString"),
             .url = QUrl(attributes.value(u"url"_s).trimmed().toString()),
             .length = attributes.value(u"length"_s).toLongLong(),
-            .signature = own(u"edSignature").toLatin1()};
+            .signature = sparkleValue(u"edSignature").toLatin1()};
 }
 
-/// The text of an element and of all in it. The reader's own function calls itself for each level,
-/// so that many levels would end the process.
-QString textOf(QXmlStreamReader& xml)
+/// The text of an element and its descendants. QXmlStreamReader::readElementText() is recursive and
+/// would overflow the stack.
+QString readText(QXmlStreamReader& xml)
 {
     QString text;
     for (int depth = 1; depth > 0 && !xml.atEnd();) {
@@ -69,15 +67,15 @@ QString textOf(QXmlStreamReader& xml)
 void readSparkleElement(QXmlStreamReader& xml, RawItem& raw)
 {
     if (xml.name() == u"version")
-        raw.item.version = textOf(xml);
+        raw.item.version = readText(xml);
     else if (xml.name() == u"shortVersionString")
-        raw.item.shortVersion = textOf(xml);
+        raw.item.shortVersion = readText(xml);
     else if (xml.name() == u"releaseNotesLink")
-        raw.item.notesLink = QUrl(textOf(xml));
+        raw.item.notesLink = QUrl(readText(xml));
     else if (xml.name() == u"os")
-        raw.system = textOf(xml);
+        raw.system = readText(xml);
     else if (xml.name() == u"channel")
-        raw.channel = textOf(xml);
+        raw.channel = readText(xml);
     else
         xml.skipCurrentElement();
 }
@@ -87,7 +85,7 @@ void readPlainElement(QXmlStreamReader& xml, RawItem& raw)
     if (xml.name() == u"description") {
         raw.item.notesArePlainText =
             xml.attributes().value(sparkle.toString(), u"format"_s) == u"plain-text";
-        raw.item.notes = textOf(xml);
+        raw.item.notes = readText(xml);
     } else if (xml.name() == u"enclosure") {
         raw.enclosures += enclosureFrom(xml.attributes());
         xml.skipCurrentElement();
@@ -110,22 +108,22 @@ RawItem readItem(QXmlStreamReader& xml)
     return raw;
 }
 
-bool isFor(const QString& system, const QString& announced)
+bool matchesSystem(const QString& system, const QString& announced)
 {
     return announced.isEmpty() || announced.compare(system, Qt::CaseInsensitive) == 0;
 }
 
-/// The item with the first enclosure for the system filled in.
+/// The item, completed from its first enclosure for the system.
 std::optional<AppcastItem> itemFor(const QString& system, const RawItem& raw)
 {
-    if (!raw.channel.isEmpty() || !isFor(system, raw.system))
+    if (!raw.channel.isEmpty() || !matchesSystem(system, raw.system))
         return {};
 
     AppcastItem item = raw.item;
     if (!raw.enclosures.isEmpty()) {
         const auto enclosure =
             std::find_if(raw.enclosures.begin(), raw.enclosures.end(),
-                         [&](const Enclosure& one) { return isFor(system, one.system); });
+                         [&](const Enclosure& one) { return matchesSystem(system, one.system); });
         if (enclosure == raw.enclosures.end())
             return {};
         if (item.version.isEmpty())
@@ -136,27 +134,28 @@ std::optional<AppcastItem> itemFor(const QString& system, const RawItem& raw)
         item.length = enclosure->length;
         item.signature = enclosure->signature;
     }
-    item.version.truncate(longestVersion);
-    item.shortVersion.truncate(longestVersion);
+    item.version.truncate(maxVersionLength);
+    item.shortVersion.truncate(maxVersionLength);
     return item.version.isEmpty() ? std::nullopt : std::optional(item);
 }
 
-/// The reader compares each attribute of a tag with all others: some hundred thousand would keep it
-/// busy for hours. No attribute has a "<" in it, and with a zero a text could hide its own.
-bool hasEndlessTag(const QByteArray& bytes)
+/// QXmlStreamReader takes quadratic time in the number of a tag's attributes: a hundred thousand
+/// take hours. Attributes contain no "<", and only in UTF-16 or UTF-32, with null bytes, is it not
+/// one byte.
+bool hasOverlongTag(const QByteArray& bytes)
 {
     if (bytes.contains('\0'))
         return true;
-    for (const QLatin1String piece : QLatin1String(bytes).tokenize(u'<')) {
-        if (piece.size() > longestTag)
+    for (const QLatin1String tag : QLatin1String(bytes).tokenize(u'<')) {
+        if (tag.size() > maxTagLength)
             return true;
     }
     return false;
 }
 
-/// Leaves the reader at the root element. Entities are refused: a feed has no use for them, and a
-/// few lines of them expand to gigabytes.
-bool enterFeed(QXmlStreamReader& xml)
+/// Advances the reader to the root element. False where it is none of a feed, or entities are
+/// declared, which could expand exponentially.
+bool readRoot(QXmlStreamReader& xml)
 {
     while (!xml.atEnd() && !xml.isStartElement()) {
         xml.readNext();
@@ -166,7 +165,60 @@ bool enterFeed(QXmlStreamReader& xml)
     return xml.isStartElement() && xml.name() == u"rss";
 }
 
+bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
+QStringView withoutLeadingZeros(QStringView digits)
+{
+    while (digits.size() > 1 && digits.front() == u'0')
+        digits = digits.mid(1);
+    return digits;
+}
+
+QList<QStringView> partsOf(QStringView version)
+{
+    QList<QStringView> parts;
+    for (qsizetype begin = 0; begin < version.size();) {
+        const bool isNumber = isDigit(version[begin]);
+        qsizetype end = begin;
+        while (end < version.size() && version[end].isLetterOrNumber() &&
+               isDigit(version[end]) == isNumber)
+            ++end;
+        if (end > begin) {
+            const QStringView part = version.mid(begin, end - begin);
+            parts += isNumber ? withoutLeadingZeros(part) : part;
+        }
+        begin = std::max(end, begin + 1);
+    }
+    return parts;
+}
+
+std::weak_ordering compareParts(QStringView left, QStringView right)
+{
+    const bool leftIsNumber = isDigit(left.front());
+    const bool rightIsNumber = isDigit(right.front());
+    if (leftIsNumber != rightIsNumber)
+        return leftIsNumber <=> rightIsNumber;
+    if (leftIsNumber && left.size() != right.size())
+        return left.size() <=> right.size();
+    return left.compare(right, Qt::CaseInsensitive) <=> 0;
+}
+
 } // namespace
+
+std::weak_ordering compareVersions(QStringView left, QStringView right)
+{
+    const QList<QStringView> leftParts = partsOf(left);
+    const QList<QStringView> rightParts = partsOf(right);
+    for (qsizetype i = 0; i < std::max(leftParts.size(), rightParts.size()); ++i) {
+        const auto order = compareParts(leftParts.value(i, u"0"), rightParts.value(i, u"0"));
+        if (order != std::weak_ordering::equivalent)
+            return order;
+    }
+    return std::weak_ordering::equivalent;
+}
 
 QString appcastSystem()
 {
@@ -177,7 +229,7 @@ QString appcastSystem()
 std::optional<QList<AppcastItem>> parseAppcast(const QByteArray& bytes, const QString& system)
 {
     QXmlStreamReader xml(bytes);
-    if (hasEndlessTag(bytes) || !enterFeed(xml))
+    if (hasOverlongTag(bytes) || !readRoot(xml))
         return {};
 
     QList<AppcastItem> items;

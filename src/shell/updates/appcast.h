@@ -4,26 +4,27 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringView>
 #include <QUrl>
 
+#include <compare>
 #include <optional>
 
 namespace tarnwick {
 
-/// One version that a feed announces. Everything is as it stands there, only that endless versions
-/// are cut off, and may be missing.
+/// One version of a feed. Every field but `version` may be missing. Long versions are cut off.
 struct AppcastItem
 {
-    /// The build number, which tells what is newer; never empty.
+    /// The build number, by which versions are compared; never empty.
     QString version;
-    /// What people call the version.
+    /// The version for the user, such as "1.3".
     QString shortVersion;
     QString notes;
     bool notesArePlainText = false;
     QUrl notesLink;
 
     QUrl url;
-    /// In bytes; 0 where it is missing or no number.
+    /// In bytes; 0 if missing or invalid.
     qint64 length = 0;
     /// Base64.
     QByteArray signature;
@@ -34,16 +35,21 @@ struct AppcastItem
     }
 };
 
-/// The name by which feeds call the system that this program runs on.
+/// Compares versions part by part: a part is a run of digits or of letters, anything else
+/// separates. Numbers of any length compare by value, letters case-insensitively, and letters are
+/// before numbers. A missing part is 0, so "1" equals "1.0", and "1.0b2" is before "1.0".
+[[nodiscard]] std::weak_ordering compareVersions(QStringView left, QStringView right);
+
+/// The name of this operating system in feeds.
 [[nodiscard]] QString appcastSystem();
 
-/// The items of a feed (RSS 2.0 with Sparkle's elements) that are for everybody on that system:
-/// those of a channel and those of other systems are left out. Nothing where the bytes are no feed,
-/// end early, declare entities, go on for too long without a tag, or hold no item at all.
+/// The items of a feed (RSS 2.0 with Sparkle's elements) for that system, without those of a
+/// channel. Nothing if the bytes are no complete feed, declare entities, contain a very long tag,
+/// or no item at all.
 [[nodiscard]] std::optional<QList<AppcastItem>> parseAppcast(const QByteArray& xml,
                                                              const QString& system);
 
-/// The item with the highest version, if that is higher than the given one.
+/// The item with the highest version, if that is higher than `buildNumber`.
 [[nodiscard]] std::optional<AppcastItem> newestItem(const QList<AppcastItem>& items,
                                                     const QString& buildNumber);
 

@@ -1,13 +1,81 @@
 // SPDX-License-Identifier: MIT
 #include "shell/updates/partial_file.h"
 
-#include "shell/updates/safe_file_name.h"
 #include "shell/updates/signature.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
+#include <QUrl>
+
+#include <algorithm>
 
 namespace tarnwick {
+
+namespace {
+
+/// Leaves room for a number within the 255 bytes that file systems allow.
+constexpr qsizetype maxNameBytes = 200;
+constexpr qsizetype maxSuffixLength = 20;
+/// Only the end of a longer name is used: shortening takes quadratic time.
+constexpr qsizetype maxNameLength = 1000;
+
+bool isUnsafe(QChar character)
+{
+    static const QString reserved = QStringLiteral(":*?\"<>|");
+    return !character.isPrint() || reserved.contains(character);
+}
+
+struct NameParts
+{
+    QString stem;
+    /// Including the dot.
+    QString suffix;
+};
+
+/// ".tar.gz", ".tar.xz" etc. are one suffix.
+NameParts partsOf(const QString& name)
+{
+    qsizetype dot = name.lastIndexOf(u'.');
+    if (dot > 4 && QStringView(name).left(dot).endsWith(u".tar"))
+        dot -= 4;
+    if (dot <= 0 || name.size() - dot > maxSuffixLength)
+        return {name, {}};
+    return {name.left(dot), name.mid(dot)};
+}
+
+QString shortened(const QString& name)
+{
+    auto [stem, suffix] = partsOf(name);
+    while (stem.toUtf8().size() + suffix.toUtf8().size() > maxNameBytes)
+        stem.chop(1);
+    return stem + suffix;
+}
+
+} // namespace
+
+QString safeFileName(const QUrl& url)
+{
+    QString name = url.path(QUrl::FullyDecoded);
+    name.replace(u'\\', u'/');
+    name = name.section(u'/', -1).right(maxNameLength);
+    name.erase(std::remove_if(name.begin(), name.end(), isUnsafe), name.end());
+    while (name.startsWith(u'.') || name.startsWith(u' '))
+        name.remove(0, 1);
+    while (name.endsWith(u'.') || name.endsWith(u' '))
+        name.chop(1);
+    return name.isEmpty() ? QStringLiteral("Tarnwick update") : shortened(name);
+}
+
+QString unusedPath(const QString& folder, const QString& fileName)
+{
+    const auto [stem, suffix] = partsOf(fileName);
+    QFileInfo file(QDir(folder), fileName);
+    // A dangling symbolic link does not "exist".
+    for (int number = 2; file.exists() || file.isSymLink(); ++number)
+        file.setFile(QDir(folder), QStringLiteral("%1 (%2)%3").arg(stem).arg(number).arg(suffix));
+    return file.absoluteFilePath();
+}
 
 PartialFile::PartialFile(const QString& folder)
     : m_folder(folder)
@@ -22,12 +90,12 @@ bool PartialFile::open()
 
 bool PartialFile::write(const QByteArray& bytes)
 {
-    // A full disk takes a part without complaint; only the next try says why.
+    // On a full disk a write is short; only the next one reports the error.
     for (qint64 written = 0; written < bytes.size();) {
-        const qint64 now = m_file.write(bytes.constData() + written, bytes.size() - written);
-        if (now <= 0)
+        const qint64 count = m_file.write(bytes.constData() + written, bytes.size() - written);
+        if (count <= 0)
             return false;
-        written += now;
+        written += count;
     }
     return true;
 }
@@ -48,7 +116,7 @@ bool PartialFile::isSignedBy(const QByteArray& publicKey, const QByteArray& sign
     return isSigned;
 }
 
-QString PartialFile::keepAs(const QString& fileName)
+QString PartialFile::saveAs(const QString& fileName)
 {
     QString path = unusedPath(m_folder, fileName);
     if (!m_file.rename(path))

@@ -4,29 +4,38 @@
 #include <QByteArray>
 #include <QTemporaryFile>
 
+class QUrl;
+
 namespace tarnwick {
 
-/// A file that is being downloaded. Until it is kept it has no name in its folder, where the file
-/// system allows that, and goes with this object or with the process, however that ends.
+/// The last path component of a URL without separators, control characters and leading dots, short
+/// enough for every file system. Never empty.
+[[nodiscard]] QString safeFileName(const QUrl& url);
+
+/// The path of that name in the folder or, if it exists, of "name (2).ext", "name (3).ext" etc.
+[[nodiscard]] QString unusedPath(const QString& folder, const QString& fileName);
+
+/// A file that is being downloaded. Where the file system allows it the file has no name until it
+/// is saved. It is removed with this object, and when the process ends in any way.
 ///
 /// Belongs to one thread at a time. After a failure `errorString()` tells the reason.
 class PartialFile
 {
 public:
-    /// The folder is made when it is missing.
+    /// The folder is created by `open()` if it does not exist.
     explicit PartialFile(const QString& folder);
 
     [[nodiscard]] bool open();
     [[nodiscard]] bool write(const QByteArray& bytes);
-    /// Brings to the file what has been written, after which its size can be relied on.
+    /// Writes out the buffer; `size()` is right afterwards.
     [[nodiscard]] bool flush();
     [[nodiscard]] qint64 size() const { return m_file.size(); }
 
-    /// Reads the file from end to end, without taking it into memory as a whole.
+    /// Maps the file instead of loading it; blocks while it is read.
     [[nodiscard]] bool isSignedBy(const QByteArray& publicKey, const QByteArray& signature);
 
-    /// Gives it the name, or a similar one where that is taken. Its path; empty on failure.
-    [[nodiscard]] QString keepAs(const QString& fileName);
+    /// Renames it to the name, or to a numbered one if that exists. Its path; empty on failure.
+    [[nodiscard]] QString saveAs(const QString& fileName);
 
     [[nodiscard]] QString errorString() const;
 

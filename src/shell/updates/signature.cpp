@@ -11,8 +11,8 @@ QByteArray decoded(const QByteArray& base64, size_t expectedSize)
 {
     const auto result =
         QByteArray::fromBase64Encoding(base64.trimmed(), QByteArray::AbortOnBase64DecodingErrors);
-    const bool fits = result && result.decoded.size() == static_cast<qsizetype>(expectedSize);
-    return fits ? result.decoded : QByteArray();
+    const bool isValid = result && result.decoded.size() == static_cast<qsizetype>(expectedSize);
+    return isValid ? result.decoded : QByteArray();
 }
 
 const uchar* bytesOf(const QByteArray& array)

@@ -11,8 +11,8 @@ namespace tarnwick {
 /// The 64 bytes of an Ed25519 signature from base64; empty where the text is anything else.
 [[nodiscard]] QByteArray decodedSignature(const QByteArray& base64);
 
-/// Whether the owner of the key signed exactly this message. False for a key or a signature of a
-/// wrong length. Takes about three seconds per gigabyte; any thread.
+/// Verifies a signature. False for a key or a signature of a wrong length. Takes about three
+/// seconds per gigabyte; any thread.
 [[nodiscard]] bool isSignedBy(const QByteArray& publicKey, const QByteArray& signature,
                               const uchar* message, qint64 size);
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "shell/updates/appcast.h"
-#include "shell/updates/update_settings.h"
+#include "shell/updates/updater.h"
 
 #include <QFutureWatcher>
 #include <QObject>
@@ -14,17 +14,17 @@ class QNetworkAccessManager;
 namespace tarnwick {
 
 class PartialFile;
-class Transfer;
+class HttpTransfer;
 
-/// Downloads one version, proves that it is genuine and only then puts it into the download folder.
+/// Downloads one version, verifies its signature and only then puts it into the download folder.
 /// Ends with exactly one of `succeeded` and `failed`; after `failed`, and when it is destroyed
-/// before its end, nothing stays in the folder. Main thread; the proof is made on another.
+/// earlier, nothing stays in the folder. Main thread; the signature is verified on another.
 class UpdateDownload : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The item is downloadable. For `start()` the network has to be there; when it goes, the
+    /// The item has a trusted URL, a length and a signature. If `network` is destroyed first, the
     /// download ends without a signal.
     UpdateDownload(AppcastItem item, UpdateSettings settings, QNetworkAccessManager& network,
                    QObject* parent);
@@ -34,26 +34,26 @@ public:
 
 Q_SIGNALS:
     void progressed(qint64 receivedBytes);
-    /// All is there and is being looked at.
-    void arrived();
+    /// Everything is received; the signature is being verified.
+    void verificationStarted();
     void succeeded(const QString& path);
-    /// The reason is for the user.
+    /// The reason is a sentence for the user.
     void failed(const QString& reason);
 
 private:
     void write(const QByteArray& bytes);
     void verify();
-    void keep();
+    void save();
     void fail(const QString& reason);
-    void failToSave();
+    void failWithFileError();
 
     const AppcastItem m_item;
     const UpdateSettings m_settings;
-    Transfer* const m_transfer;
+    HttpTransfer* const m_transfer;
     qint64 m_received = 0;
-    /// Shared with the proof, which may outlast this object.
+    /// Shared with the verification, which may outlast this object.
     std::shared_ptr<PartialFile> m_file;
-    QFutureWatcher<bool> m_proof;
+    QFutureWatcher<bool> m_verification;
 };
 
 } // namespace tarnwick

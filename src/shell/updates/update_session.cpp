@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shell/updates/update_session.h"
 
+#include "shell/updates/http_transfer.h"
 #include "shell/updates/signature.h"
-#include "shell/updates/transfer.h"
-#include "shell/updates/trusted_address.h"
 #include "shell/updates/update_download.h"
+#include "shell/updates/url_policy.h"
 
 #include <QDesktopServices>
 
@@ -13,8 +13,8 @@ namespace tarnwick {
 namespace {
 
 constexpr qint64 mebibyte = 1'048'576;
-constexpr qint64 largestFeed = mebibyte;
-constexpr qint64 largestDownload = 2048 * mebibyte;
+constexpr qint64 maxFeedBytes = mebibyte;
+constexpr qint64 maxDownloadBytes = 2048 * mebibyte;
 
 } // namespace
 
@@ -25,11 +25,11 @@ UpdateSession::UpdateSession(UpdateSettings settings, QObject* parent)
 
 void UpdateSession::start()
 {
-    auto* const transfer = new Transfer(m_network, largestFeed, this);
-    connect(transfer, &Transfer::arrived, this,
+    auto* const transfer = new HttpTransfer(m_network, maxFeedBytes, this);
+    connect(transfer, &HttpTransfer::dataReceived, this,
             [this](const QByteArray& bytes) { m_feed += bytes; });
-    connect(transfer, &Transfer::succeeded, this, &UpdateSession::readFeed);
-    connect(transfer, &Transfer::failed, this, &UpdateSession::fail);
+    connect(transfer, &HttpTransfer::succeeded, this, &UpdateSession::readFeed);
+    connect(transfer, &HttpTransfer::failed, this, &UpdateSession::fail);
     transfer->start(m_settings.feed);
 }
 
@@ -46,12 +46,12 @@ void UpdateSession::readFeed()
         if (!url->isEmpty())
             *url = m_settings.feed.resolved(*url);
     }
-    if (const QString objection = objectionTo(*m_offer); !objection.isEmpty())
-        return fail(objection);
+    if (const QString obstacle = downloadObstacle(*m_offer); !obstacle.isEmpty())
+        return fail(obstacle);
     setState(State::Offering);
 }
 
-QString UpdateSession::objectionTo(const AppcastItem& item) const
+QString UpdateSession::downloadObstacle(const AppcastItem& item) const
 {
     if (decodedPublicKey(m_settings.publicKey).isEmpty()) {
         return tr("Tarnwick %1 is available, but this copy of Tarnwick was made without the key "
@@ -63,11 +63,11 @@ QString UpdateSession::objectionTo(const AppcastItem& item) const
                   "from a forged one.")
             .arg(item.name());
     }
-    if (!isTrustedAddress(item.url)) {
+    if (!isTrustedUrl(item.url)) {
         return tr("Tarnwick %1 is available, but there is no secure address to download it from.")
             .arg(item.name());
     }
-    if (item.length <= 0 || item.length > largestDownload) {
+    if (item.length <= 0 || item.length > maxDownloadBytes) {
         return tr("Tarnwick %1 is available, but the size of its download is missing or not "
                   "credible.")
             .arg(item.name());
@@ -84,14 +84,15 @@ void UpdateSession::download()
         m_receivedBytes = receivedBytes;
         Q_EMIT progressed();
     });
-    connect(download, &UpdateDownload::arrived, this, [this] { setState(State::Verifying); });
-    connect(download, &UpdateDownload::succeeded, this, &UpdateSession::handOver);
+    connect(download, &UpdateDownload::verificationStarted, this,
+            [this] { setState(State::Verifying); });
+    connect(download, &UpdateDownload::succeeded, this, &UpdateSession::openDownload);
     connect(download, &UpdateDownload::failed, this, &UpdateSession::fail);
     setState(State::Downloading);
     download->start();
 }
 
-void UpdateSession::handOver(const QString& path)
+void UpdateSession::openDownload(const QString& path)
 {
     m_savedPath = path;
     m_isOpened = QDesktopServices::openUrl(QUrl::fromLocalFile(path));

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "shell/updates/appcast.h"
-#include "shell/updates/update_settings.h"
+#include "shell/updates/updater.h"
 
 #include <QNetworkAccessManager>
 #include <QObject>
@@ -11,12 +11,10 @@
 
 namespace tarnwick {
 
-class Transfer;
-
-/// One check for updates: reads the feed, offers the newest version, downloads it when asked to and
-/// hands the proven file to the desktop's opener. Installs and runs nothing.
+/// One check for updates: reads the feed, offers the newest version, downloads it on request and
+/// opens the verified file with the desktop's application for it. Installs and runs nothing.
 ///
-/// Destruction breaks off whatever is going on. Main thread.
+/// Destruction cancels whatever is in progress. Main thread.
 class UpdateSession : public QObject
 {
     Q_OBJECT
@@ -24,32 +22,32 @@ class UpdateSession : public QObject
 public:
     enum class State {
         Checking,
-        /// The end: there is nothing newer.
+        /// Final: there is nothing newer.
         UpToDate,
-        /// There is an offer to `download()`.
+        /// `download()` may be called.
         Offering,
         Downloading,
         Verifying,
-        /// The end: the download is at `savedPath()`.
+        /// Final: the download is at `savedPath()`.
         Saved,
-        /// The end, with an `error()`.
+        /// Final: see `error()`.
         Failed,
     };
 
     explicit UpdateSession(UpdateSettings settings, QObject* parent = nullptr);
 
-    /// Once.
+    /// To be called once.
     void start();
-    /// While offering.
+    /// Does nothing except while offering.
     void download();
 
     [[nodiscard]] State state() const { return m_state; }
     [[nodiscard]] const QString& buildNumber() const { return m_settings.buildNumber; }
-    /// The newer version, if one has been found, even if it cannot be downloaded.
+    /// The newer version that was found, even if it cannot be downloaded.
     [[nodiscard]] const std::optional<AppcastItem>& offer() const { return m_offer; }
     [[nodiscard]] qint64 receivedBytes() const { return m_receivedBytes; }
     [[nodiscard]] const QString& savedPath() const { return m_savedPath; }
-    /// Whether the desktop took the file.
+    /// Whether the desktop accepted the file.
     [[nodiscard]] bool isOpened() const { return m_isOpened; }
     /// Sentences for the user.
     [[nodiscard]] const QString& error() const { return m_error; }
@@ -62,9 +60,9 @@ private:
     void setState(State state);
     void fail(const QString& reason);
     void readFeed();
-    void handOver(const QString& path);
-    /// Empty where nothing is against the download.
-    [[nodiscard]] QString objectionTo(const AppcastItem& item) const;
+    void openDownload(const QString& path);
+    /// Why the item cannot be downloaded; empty if it can.
+    [[nodiscard]] QString downloadObstacle(const AppcastItem& item) const;
 
     const UpdateSettings m_settings;
     QNetworkAccessManager m_network;

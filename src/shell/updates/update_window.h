@@ -11,10 +11,10 @@ class QPushButton;
 
 namespace tarnwick {
 
-class NotesView;
+class ReleaseNotesView;
 
-/// One check for updates as the user sees it, from the question to the server to the saved file.
-/// The check begins with the window and ends with it: closing it breaks off whatever is going on.
+/// The user interface of one check for updates, from the request to the saved file. The constructor
+/// starts the check; closing the window cancels it.
 class UpdateWindow : public QDialog
 {
     Q_OBJECT
@@ -33,10 +33,10 @@ private:
     QLabel* const m_heading;
     QLabel* const m_detail;
     QProgressBar* const m_progress;
-    NotesView* const m_notes;
+    ReleaseNotesView* const m_notes;
     QLabel* const m_notesLink;
     QPushButton* const m_download;
-    QPushButton* const m_dismiss;
+    QPushButton* const m_close;
 };
 
 } // namespace tarnwick

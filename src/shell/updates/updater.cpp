@@ -1,11 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "shell/updates/updater.h"
 
+#include "model/bundle_info.h"
 #include "shell/content_window.h"
-#include "shell/updates/trusted_address.h"
 #include "shell/updates/update_window.h"
+#include "shell/updates/url_policy.h"
+
+#include <QStandardPaths>
 
 namespace tarnwick {
+
+UpdateSettings updateSettings(const BundleInfo& info)
+{
+    return {
+        .feed = QUrl(info.text(QStringLiteral("SUFeedURL"))),
+        .publicKey = info.text(QStringLiteral("SUPublicEDKey")).toLatin1(),
+        .buildNumber = info.requiredText(QStringLiteral("CFBundleVersion")),
+        .downloadFolder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation),
+    };
+}
 
 Updater::Updater(UpdateSettings settings)
     : m_settings(std::move(settings))
@@ -22,7 +35,7 @@ void Updater::start()
 
 bool Updater::canCheckForUpdates() const
 {
-    return m_isStarted && !m_isChecking && isTrustedAddress(m_settings.feed);
+    return m_isStarted && !m_isChecking && isTrustedUrl(m_settings.feed);
 }
 
 void Updater::checkForUpdates()

@@ -1,15 +1,31 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/updates/update_settings.h"
-
+#include <QByteArray>
 #include <QObject>
+#include <QUrl>
 
 namespace tarnwick {
 
+class BundleInfo;
+
+struct UpdateSettings
+{
+    /// The URL of the appcast; empty where there is none.
+    QUrl feed;
+    /// Ed25519, in base64, as packaged.
+    QByteArray publicKey;
+    QString buildNumber;
+    QString downloadFolder;
+};
+
+/// The packaged values and the user's own download folder. Stops the process where there is no
+/// build number.
+[[nodiscard]] UpdateSettings updateSettings(const BundleInfo& info);
+
 /// Starts checks for updates, one at a time, each in a window of its own. The window outlives this
-/// object if it has to; another updater may then start a second one. Nothing is checked unasked.
-/// Main thread.
+/// object if it has to; another updater may then start a second one. Nothing is checked unless
+/// `checkForUpdates()` is called. Main thread.
 class Updater : public QObject
 {
     Q_OBJECT
@@ -19,10 +35,10 @@ public:
 
     void start();
 
-    /// False until it is started, where there is no feed at a secure address, and while the window
-    /// of a check is open.
+    /// False until it is started, where the feed has no trusted URL, and while the window of a
+    /// check is open.
     [[nodiscard]] bool canCheckForUpdates() const;
-    /// Does nothing while it cannot.
+    /// Does nothing while `canCheckForUpdates()` is false.
     void checkForUpdates();
 
 Q_SIGNALS:
@@ -34,6 +50,24 @@ private:
     const UpdateSettings m_settings;
     bool m_isStarted = false;
     bool m_isChecking = false;
+};
+
+/// Owns an updater. It may be destroyed at any time: the window of a check stays until the user
+/// closes it.
+class StandardUpdaterController
+{
+public:
+    explicit StandardUpdaterController(UpdateSettings settings, bool startingUpdater)
+        : m_updater(std::move(settings))
+    {
+        if (startingUpdater)
+            m_updater.start();
+    }
+
+    [[nodiscard]] Updater& updater() { return m_updater; }
+
+private:
+    Updater m_updater;
 };
 
 } // namespace tarnwick

@@ -1,10 +1,21 @@
 // SPDX-License-Identifier: MIT
-#include "shell/updates/web_page.h"
+#include "shell/updates/url_policy.h"
 
 #include <QDesktopServices>
+#include <QHostAddress>
 #include <QUrl>
 
 namespace tarnwick {
+
+bool isTrustedUrl(const QUrl& url)
+{
+    if (!url.isValid() || url.host().isEmpty())
+        return false;
+    if (url.scheme() == u"https")
+        return true;
+    return url.scheme() == u"http" &&
+           (url.host() == u"localhost" || QHostAddress(url.host()).isLoopback());
+}
 
 bool isWebPage(const QUrl& url)
 {
