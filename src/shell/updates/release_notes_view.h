@@ -7,9 +7,10 @@ namespace tarnwick {
 
 struct AppcastItem;
 
-/// Shows the release notes of a version, cut off if they are very long. They come from the network:
-/// images, style sheets and files are never loaded, and links open in the web browser if they are
-/// web pages.
+/// Shows the release notes of a version. They come from the network, and Qt's layout of HTML can
+/// take unlimited time (each nested table doubles it) and loads files. So only short notes of
+/// harmless elements without attributes are shown as HTML, all others as plain text and cut off if
+/// they are long. Links open in the web browser if they are web pages.
 class ReleaseNotesView : public QTextBrowser
 {
     Q_OBJECT
@@ -18,8 +19,6 @@ public:
     explicit ReleaseNotesView(QWidget* parent = nullptr);
 
     void showNotes(const AppcastItem& item);
-
-    QVariant loadResource(int type, const QUrl& url) override;
 };
 
 } // namespace tarnwick
