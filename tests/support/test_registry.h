@@ -5,27 +5,26 @@
 
 #include <functional>
 #include <memory>
-#include <vector>
 
 namespace tarnwick::test {
 
 using TestMaker = std::function<std::unique_ptr<QObject>()>;
 
-/// The test classes of this executable. Each is made after the application object.
-inline std::vector<TestMaker>& registeredTests()
+/// The test classes of this executable by their names. Each is made after the application object.
+inline QMap<QString, TestMaker>& registeredTests()
 {
-    static std::vector<TestMaker> makers;
+    static QMap<QString, TestMaker> makers;
     return makers;
 }
 
-inline bool registerTest(TestMaker maker)
+inline bool registerTest(const QString& name, TestMaker maker)
 {
-    registeredTests().push_back(std::move(maker));
+    registeredTests().insert(name, std::move(maker));
     return true;
 }
 
 } // namespace tarnwick::test
 
 #define TARNWICK_TEST(TestClass)                                                                   \
-    [[maybe_unused]] static const bool isRegistered##TestClass =                                   \
-        tarnwick::test::registerTest([] { return std::make_unique<TestClass>(); });
+    [[maybe_unused]] static const bool isRegistered##TestClass = tarnwick::test::registerTest(     \
+        QStringLiteral(#TestClass), [] { return std::make_unique<TestClass>(); });
