@@ -4,7 +4,7 @@
 # panel and saves a picture of the screen; prints the picture's path.
 #
 #   screenshot_menu.sh [--output PNG] [--program PATH] [--repos samples|COUNT] [--dark] [--scale N]
-#                      [--panel ROW] [--host xfce4-panel|trayer] [--size WxH] [--preference KEY=JSON]...
+#                      [--panel ROW] [--host xfce4-panel|xembed-tray] [--size WxH] [--preference KEY=JSON]...
 #
 # The preferences are made for the occasion, too: nothing of the user's is read or written.
 set -euo pipefail
@@ -36,9 +36,9 @@ output=$(realpath "$output")
 folder=$(mktemp -d "${TMPDIR:-/tmp}/tarnwick-samples.XXXXXX")
 trap 'rm -rf "$folder"' EXIT
 case $repos in
-samples) paths=$("$scripts/sample_repositories.sh" "$folder/repositories") ;;
+samples) paths=$("$scripts/desktop/sample_repositories.sh" "$folder/repositories") ;;
 0) paths= ;;
-*) paths=$("$scripts/sample_repositories.sh" "$folder/repositories" "$repos") ;;
+*) paths=$("$scripts/desktop/sample_repositories.sh" "$folder/repositories" "$repos") ;;
 esac
 mkdir -p "$folder/config/tarnwick"
 {
@@ -50,5 +50,5 @@ mkdir -p "$folder/config/tarnwick"
 } >"$folder/config/tarnwick/preferences.json"
 
 "$scripts/virtual_desktop.sh" ${desktop[@]+"${desktop[@]}"} -- \
-    "$scripts/photograph_menu.sh" "$program" "$folder" "$output" "$panel"
+    "$scripts/desktop/photograph_menu.sh" "$program" "$folder" "$output" "$panel"
 echo "$output"

@@ -2,16 +2,17 @@
 # SPDX-License-Identifier: MIT
 # Runs a command in a private X desktop with a tray and returns the command's exit status:
 #
-#   virtual_desktop.sh [--host xfce4-panel|trayer|none] [--size 1280x800] [--dark] [--scale N]
+#   virtual_desktop.sh [--host xfce4-panel|xembed-tray|none] [--size 1280x800] [--dark] [--scale N]
 #                      -- COMMAND...
 #
 # The command sees its own display, session bus, accessibility bus, HOME and XDG folders, and
 # nothing of the caller's desktop. It starts once the tray host takes icons, not earlier: Qt picks
 # its tray protocol when the first icon is made. --size counts logical pixels: with --scale 2 the
 # screen has twice as many each way. Theme, font and scale are given by XSettings, see
-# desktop_theme.sh.
+# desktop/desktop_theme.sh.
 set -euo pipefail
 scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+desktop=$scripts/desktop
 
 usage() { sed -n '5,6s/^# *//p' "${BASH_SOURCE[0]}" >&2; exit 64; }
 
@@ -26,7 +27,7 @@ while (($#)); do
     *) usage ;;
     esac
 done
-[[ $host =~ ^(xfce4-panel|trayer|none)$ && $size =~ ^[0-9]+x[0-9]+$ && $scale =~ ^[1-4]$ ]] || usage
+[[ $host =~ ^(xfce4-panel|xembed-tray|none)$ && $size =~ ^[0-9]+x[0-9]+$ && $scale =~ ^[1-4]$ ]] || usage
 (($#)) || usage
 
 for program in Xvfb dbus-daemon gdbus openbox xsettingsd hsetroot python3; do
@@ -46,8 +47,9 @@ stop_everything() {
         kill "${pids[pid]}" 2>/dev/null || true
         wait "${pids[pid]}" 2>/dev/null || true
     done
-    # Services the bus started end by themselves when it has gone, some while writing a last file.
-    rm -rf "$home" 2>/dev/null || { sleep 1; rm -rf "$home"; }
+    # Services that the bus started end by themselves when it has gone, some after a last file.
+    local deadline=$((SECONDS + 10))
+    until rm -rf "$home" 2>/dev/null || ((SECONDS > deadline)); do sleep 0.1; done
 }
 trap stop_everything EXIT
 trap 'exit 130' INT
@@ -102,21 +104,21 @@ start_desktop() {
     start_and_read dbus-daemon --session --nofork --print-address=3 \
         --address="unix:path=$XDG_RUNTIME_DIR/bus"
     export DBUS_SESSION_BUS_ADDRESS=$answer
-    "$scripts/desktop_theme.sh" "$theme"
+    "$desktop/desktop_theme.sh" "$theme"
     start xsettingsd
     echo "${pids[-1]}" >"$XDG_RUNTIME_DIR/xsettingsd.pid"
     gdbus call --session --dest org.a11y.Bus --object-path /org/a11y/bus \
         --method org.freedesktop.DBus.Properties.Set org.a11y.Status IsEnabled '<true>' \
         >"$logs/accessibility.log" 2>&1 || give_up "the accessibility bus did not start"
     start openbox --sm-disable
-    "$scripts/wait_for_desktop.py" window-manager || give_up "openbox did not start"
+    "$desktop/wait_for_desktop.py" window-manager || give_up "openbox did not start"
 }
 
 enter_private_environment
 start_desktop
 if [[ $host != none ]]; then
-    start "$scripts/tray_host.sh" "$host"
-    "$scripts/wait_for_desktop.py" "$host" || give_up "$host did not offer a tray"
+    start "$desktop/tray_host.sh" "$host"
+    "$desktop/wait_for_desktop.py" "$host" || give_up "$host did not offer a tray"
 fi
 
 setpriv --pdeathsig TERM -- "$@" <&0 &

@@ -20,7 +20,7 @@ void LateHostE2eTest::itemAppearsWithTheHost_data()
 {
     QTest::addColumn<QString>("host");
     QTest::newRow("status notifier host") << u"xfce4-panel"_s;
-    QTest::newRow("XEmbed host") << u"trayer"_s;
+    QTest::newRow("XEmbed host") << u"xembed-tray"_s;
 }
 
 void LateHostE2eTest::itemAppearsWithTheHost()

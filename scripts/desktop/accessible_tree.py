@@ -4,6 +4,7 @@
 
 Prints one line for each item that is showing: left, top, width, height, role and name, with tabs
 between them. What a named control or a row consists of is left out, but for a row's open submenu.
+A "push button", as older accessibility libraries call it, is a "button".
 """
 import sys
 
@@ -17,19 +18,23 @@ from gi.repository import Atspi, GLib
 HOLDERS = {"alert", "application", "dialog", "frame", "list", "list item", "page tab list", "panel", "popup menu"}
 
 
+def role_of(item):
+    role = item.get_role_name()
+    return "button" if role == "push button" else role
+
+
 def walk(item):
     try:
         name = item.get_name().replace("\n", " ")
+        role = role_of(item)
         if item.get_state_set().contains(Atspi.StateType.SHOWING):
             area = item.get_extents(Atspi.CoordType.SCREEN)
-            print(area.x, area.y, area.width, area.height, item.get_role_name(), name,
-                  sep="\t")
-        role = item.get_role_name()
+            print(area.x, area.y, area.width, area.height, role, name, sep="\t")
         if name and role not in HOLDERS and role != "menu item":
             return
         children = [item.get_child_at_index(i) for i in range(item.get_child_count())]
         if role == "menu item":
-            children = [c for c in children if c and c.get_role_name() == "popup menu"]
+            children = [c for c in children if c and role_of(c) == "popup menu"]
     except GLib.Error:  # it went away while we looked
         return
     for child in children:

@@ -8,10 +8,11 @@
 # it fills.
 set -euo pipefail
 
-# visible_window_inside HOST NAME: the window NAME within the window HOST; both are instance names.
+# visible_window_inside HOST NAME: the window NAME within a window HOST; both are instance
+# names, HOST a pattern.
 visible_window_inside() {
     local host window
-    for host in $(xdotool search --onlyvisible --classname "^$1\$" 2>/dev/null); do
+    for host in $(xdotool search --onlyvisible --classname "^($1)\$" 2>/dev/null); do
         window=$(xwininfo -tree -id "$host" 2>/dev/null | awk -v name="(\"$2\"" '$3 == name {print $1}')
         [[ -n $window ]] && echo "$window" && return
     done
@@ -33,7 +34,7 @@ has_status_notifier_item() {
         org.kde.StatusNotifierWatcher RegisteredStatusNotifierItems 2>/dev/null) == *"['"* ]]
 }
 
-if icon=$(visible_window_inside panel tarnwick); then
+if icon=$(visible_window_inside 'panel|stalonetray' tarnwick); then
     print_centre "$icon"
 else
     has_status_notifier_item && tray=$(visible_window_inside xfce4-panel wrapper-2.0) &&

@@ -1,9 +1,9 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""wait_for_desktop.py xfce4-panel|trayer|window-manager: returns once that part is ready.
+"""wait_for_desktop.py xfce4-panel|xembed-tray|window-manager: returns once that part is ready.
 
-The panel is ready when a status notifier watcher says it has a host, trayer when it owns the tray
-selection of the display. Fails after 30 seconds.
+The panel is ready when a status notifier watcher says it has a host, the other tray when it owns
+the tray selection of the display. Fails after 30 seconds.
 """
 import sys
 import time
@@ -37,7 +37,7 @@ def main():
     screen = display.Display()
     ready = {
         "xfce4-panel": lambda: watcher_has_host() and has_tray_selection(screen),
-        "trayer": lambda: has_tray_selection(screen),
+        "xembed-tray": lambda: has_tray_selection(screen),
         "window-manager": lambda: has_window_manager(screen),
     }[sys.argv[1]]
     deadline = time.monotonic() + 30

@@ -57,7 +57,7 @@ row_middle() {
             print int(($1 + $3 / 2) * scale), int(($2 + $4 / 2) * scale) }'
 }
 
-open_panel() { "$scripts/accessible_tree.py" Tarnwick | grep "push button.Show in Finder" >/dev/null; }
+open_panel() { "$scripts/accessible_tree.py" Tarnwick | grep -P "\tbutton\tShow in Finder" >/dev/null; }
 
 wait_for position item_at_rest
 # shellcheck disable=SC2086 # two numbers

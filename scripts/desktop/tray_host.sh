@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# tray_host.sh xfce4-panel|trayer: becomes that tray host, at the top right of the current display.
+# tray_host.sh xfce4-panel|xembed-tray: becomes that tray host, at the top right of the current display.
 #
 # Meant for a desktop made by virtual_desktop.sh: it writes the panel's settings to XDG_CONFIG_HOME.
-# The panel takes status notifier items and XEmbed icons, trayer only the latter.
+# The panel takes status notifier items and XEmbed icons. The other, which takes only the latter, is
+# trayer, or stalonetray on the Debian releases that no longer have trayer.
 set -euo pipefail
 height=28
+pixels=$((height * ${TARNWICK_DESKTOP_SCALE:-1}))
 
 write_panel_settings() {
     local folder=$XDG_CONFIG_HOME/xfce4/xfconf/xfce-perchannel-xml
@@ -58,12 +60,15 @@ xfce4-panel)
     write_panel_settings
     exec xfce4-panel --disable-wm-check
     ;;
-trayer)
-    exec trayer --edge top --align right --margin 0 --distance 0 --SetDockType true \
-        --expand true --widthtype request --height $((height * ${TARNWICK_DESKTOP_SCALE:-1}))
+xembed-tray)
+    ! command -v trayer >/dev/null ||
+        exec trayer --edge top --align right --margin 0 --distance 0 --SetDockType true \
+            --expand true --widthtype request --height "$pixels"
+    exec stalonetray --config /dev/null --geometry 1x1-0+0 --grow-gravity NE --slot-size "$pixels" \
+        --icon-size "$pixels" --window-type dock --window-strut top --background '#eeeeee'
     ;;
 *)
-    echo "usage: tray_host.sh xfce4-panel|trayer" >&2
+    echo "usage: tray_host.sh xfce4-panel|xembed-tray" >&2
     exit 64
     ;;
 esac

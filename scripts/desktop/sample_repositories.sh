@@ -4,7 +4,7 @@
 # their paths in the order of the menu. Without a count they show, between them, all that a row can
 # show; with one, they are so many small ones.
 set -euo pipefail
-samples=$(cd "$(dirname "${BASH_SOURCE[0]}")/../resources/samples" && pwd)
+samples=$(cd "$(dirname "${BASH_SOURCE[0]}")/../../resources/samples" && pwd)
 mkdir -p "$1"
 cd "$1"
 
