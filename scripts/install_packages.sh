@@ -4,12 +4,19 @@
 set -euo pipefail
 list=$(dirname "${BASH_SOURCE[0]}")/packages.list
 
+# Releases that the list does not know, as those of other distributions, are taken for the newest.
+# shellcheck source=/dev/null
+release=$(. /etc/os-release 2>/dev/null; echo "${VERSION_CODENAME:-unknown}")
+grep -qE "^\w+@\S*\b$release\b" "$list" || release=forky
+
 wanted=()
 for group in "$@"; do
-    grep -q "^$group " "$list" || { echo "install_packages.sh: no group '$group'" >&2; exit 64; }
-    mapfile -t -O "${#wanted[@]}" wanted < <(awk -v group="$group" '$1 == group {print $2}' "$list")
+    grep -qE "^$group(@[^ ]+)? " "$list" || { echo "install_packages.sh: no group '$group'" >&2; exit 64; }
+    mapfile -t -O "${#wanted[@]}" wanted < <(awk -v group="$group" -v release="$release" '
+        { split($1, part, "@") }
+        part[1] == group && (!part[2] || index("," part[2] ",", "," release ",")) { print $2 }' "$list")
 done
-((${#wanted[@]})) || { echo "usage: install_packages.sh build|run|desktop|test..." >&2; exit 64; }
+((${#wanted[@]})) || { echo "usage: install_packages.sh GROUP..." >&2; exit 64; }
 
 is_installed() { [[ $(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]; }
 
