@@ -17,13 +17,12 @@ give_up() {
     exit 70
 }
 
-# wait_for VARIABLE COMMAND...: repeats the command until it succeeds and keeps what it prints.
+# wait_for COMMAND...: repeats the command until it succeeds.
 wait_for() {
-    local -n answer=$1
     local deadline=$((SECONDS + 60))
-    until answer=$("${@:2}"); do
+    until "$@"; do
         kill -0 "$pid" 2>/dev/null || give_up "the program ended"
-        ((SECONDS < deadline)) || give_up "waited a minute for: ${*:2}"
+        ((SECONDS < deadline)) || give_up "waited a minute for: $*"
         sleep 0.2
     done
 }
@@ -37,10 +36,10 @@ item_at_rest() {
 
 # Beside the menu, only the icon in an XEmbed tray is a visible window of the program.
 open_menu() {
-    local window WINDOW X Y WIDTH HEIGHT SCREEN
+    local window width
     for window in $(xdotool search --onlyvisible --classname '^tarnwick$' 2>/dev/null); do
-        eval "$(xdotool getwindowgeometry --shell "$window" 2>/dev/null)"
-        ((WIDTH > 100)) && echo "$window" && return
+        width=$(xdotool getwindowgeometry --shell "$window" 2>/dev/null | sed -n 's/^WIDTH=//p')
+        ((width > 100)) && echo "$window" && return
     done
     return 1
 }
@@ -54,19 +53,21 @@ menu_at_rest() {
 row_middle() {
     "$scripts/accessible_tree.py" Tarnwick |
         awk -F '\t' -v row="$row" -v scale="${TARNWICK_DESKTOP_SCALE:-1}" '$5 == "menu item" && index($6, row) == 1 && !found++ {
-            print int(($1 + $3 / 2) * scale), int(($2 + $4 / 2) * scale) }'
+            print int(($1 + $3 / 2) * scale), int(($2 + $4 / 2) * scale) }' | grep .
 }
 
 open_panel() { "$scripts/accessible_tree.py" Tarnwick | grep -P "\tbutton\tShow in Finder" >/dev/null; }
 
-wait_for position item_at_rest
+position=$(wait_for item_at_rest)
 # shellcheck disable=SC2086 # two numbers
 xdotool mousemove $position click 1
-wait_for menu open_menu
-wait_for nothing menu_at_rest "$menu"
+menu=$(wait_for open_menu)
+wait_for menu_at_rest "$menu"
 if [[ $row ]]; then
-    xdotool mousemove $(row_middle)
-    wait_for panel open_panel
-    wait_for nothing menu_at_rest root
+    middle=$(wait_for row_middle)
+    # shellcheck disable=SC2086 # two numbers
+    xdotool mousemove $middle
+    wait_for open_panel
+    wait_for menu_at_rest root
 fi
 import -window root "png:$output"

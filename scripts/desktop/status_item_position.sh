@@ -20,8 +20,8 @@ visible_window_inside() {
 }
 
 print_centre() {
-    local X Y WIDTH HEIGHT WINDOW SCREEN geometry
-    geometry=$(xdotool getwindowgeometry --shell "$1" 2>/dev/null) || return 1
+    local X Y WIDTH HEIGHT geometry
+    geometry=$(xdotool getwindowgeometry --shell "$1" 2>/dev/null | grep -E '^(X|Y|WIDTH|HEIGHT)=') || return 1
     eval "$geometry"
     # Before it is laid out, and in an empty tray, it is a pixel wide.
     ((WIDTH > 8 && HEIGHT > 8)) || return 1
