@@ -6,6 +6,7 @@
 #include "model/repo_manager.h"
 #include "platform/launcher_helper.h"
 #include "platform/platform.h"
+#include "platform/tray_host.h"
 #include "settings/window/settings_view.h"
 #include "shell/application_menu.h"
 #include "shell/content_window.h"
@@ -115,7 +116,7 @@ void AppDelegate::makeStatusItem()
 
 void AppDelegate::openMenu(const QRect& anchor)
 {
-    m_menu->popUpBeside(anchor);
+    m_menu->popUpBeside(anchor, m_platform.trayHost->panelRects());
 }
 
 void rebuildMenu()

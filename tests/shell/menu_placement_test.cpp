@@ -44,6 +44,21 @@ private Q_SLOTS:
         QVERIFY(!placed.intersects(item));
     }
 
+    void panelsTakeTheirStrip_data()
+    {
+        const auto row = table<QList<QRect>, QRect>("panels", "area");
+        row("none", {}, {0, 0, 1000, 600});
+        row("above and beside", {{300, 0, 400, 26}, {0, 26, 40, 574}}, {40, 26, 960, 574});
+        row("below and right", {{0, 570, 1000, 30}, {980, 0, 20, 600}}, {0, 0, 980, 570});
+        row("other screen", {{1000, 0, 800, 30}}, {0, 0, 1000, 600});
+    }
+
+    void panelsTakeTheirStrip()
+    {
+        QFETCH(QList<QRect>, panels);
+        QTEST(areaWithoutPanels({0, 0, 1000, 600}, panels), "area");
+    }
+
     void submenuStaysBesideMenu_data()
     {
         const auto row =

@@ -258,7 +258,7 @@ private:
         m_rows.clear();
         for (int i = 0; i < rows; ++i)
             m_rows.append(Row(*m_menu));
-        m_menu->popUpBeside(QRect(600, 0, 24, 24));
+        m_menu->popUpBeside(QRect(600, 0, 24, 24), {});
         QVERIFY(QTest::qWaitForWindowExposed(m_menu.get()));
     }
 

@@ -25,6 +25,24 @@ Qt::Edge nearestEdge(const QPoint& point, const QRect& available)
 
 } // namespace
 
+QRect areaWithoutPanels(QRect area, const QList<QRect>& panels)
+{
+    for (const QRect& panel : panels) {
+        const QPoint middle = panel.center();
+        if (!panel.intersects(area))
+            continue;
+        if (panel.width() >= panel.height() && middle.y() < area.center().y())
+            area.setTop(panel.bottom() + 1);
+        else if (panel.width() >= panel.height())
+            area.setBottom(panel.top() - 1);
+        else if (middle.x() < area.center().x())
+            area.setLeft(panel.right() + 1);
+        else
+            area.setRight(panel.left() - 1);
+    }
+    return area;
+}
+
 QRect keptWithin(const QRect& available, QRect rect)
 {
     rect.setSize(rect.size().boundedTo(available.size()));

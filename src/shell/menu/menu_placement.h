@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QList>
 #include <QRect>
 
 namespace tarnwick {
+
+/// What the panels leave of a screen's area. A panel takes the whole strip along the edge it is at.
+[[nodiscard]] QRect areaWithoutPanels(QRect area, const QList<QRect>& panels);
 
 /// Where a menu of the wanted size goes, in the coordinates of the screen: next to the status item
 /// at `anchor`, on the side that faces away from the panel, never over the item and never beyond

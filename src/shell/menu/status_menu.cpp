@@ -134,7 +134,7 @@ void StatusMenu::closeSubmenu()
         submenu->close();
 }
 
-void StatusMenu::popUpBeside(const QRect& anchor)
+void StatusMenu::popUpBeside(const QRect& anchor, const QList<QRect>& panels)
 {
     const QPoint pointer = QCursor::pos();
     const ClickGuard::Time now{m_clock.elapsed()};
@@ -145,6 +145,7 @@ void StatusMenu::popUpBeside(const QRect& anchor)
         return;
     m_clicks.opened(pointer, now);
     m_anchor = anchor.isEmpty() ? QRect(pointer, QSize()) : anchor;
+    m_panels = panels;
     Q_EMIT aboutToShow();
     open();
 }
@@ -223,11 +224,18 @@ QRect StatusMenu::placement() const
     const QSize wanted = m_column->sizeHint().grownBy(margins);
     if (const HostedRow* const row = parentRow()) {
         const int top = row->mapToGlobal(QPoint()).y() - margins.top();
-        return placeSubmenu(parentMenu()->geometry(), top, row->screen()->availableGeometry(),
-                            wanted, layoutDirection());
+        return placeSubmenu(parentMenu()->geometry(), top, availableArea(), wanted,
+                            layoutDirection());
     }
-    const QScreen* const at = QGuiApplication::screenAt(m_anchor->center());
-    return placeMenu(*m_anchor, (at ? at : screen())->availableGeometry(), wanted);
+    return placeMenu(m_anchor, availableArea(), wanted);
+}
+
+QRect StatusMenu::availableArea() const
+{
+    if (const StatusMenu* const parent = parentMenu())
+        return parent->availableArea();
+    const QScreen* const at = QGuiApplication::screenAt(m_anchor.center());
+    return areaWithoutPanels((at ? at : screen())->availableGeometry(), m_panels);
 }
 
 } // namespace tarnwick

@@ -8,7 +8,6 @@
 #include <QWidget>
 
 #include <memory>
-#include <optional>
 
 namespace tarnwick {
 
@@ -20,11 +19,11 @@ class RowColumn;
 /// A menu of hosted views, popped up next to the status item; the submenu of a row is a status menu
 /// too. It follows the size of its rows while it is open and never leaves the screen.
 ///
-/// It is no QMenu, which expects plain entries and a click of its own: Qt 6.8 ignores the first moves
-/// over a QMenu that opens before the program has seen the pointer (it measures how far that has
-/// moved since its last known position, of which there is none after a click on another program's
-/// panel), and a press over a parent menu's widget closes everything. What pointer and keys do is
-/// decided by `MenuInput`, from the events of the windows.
+/// It is no QMenu, which expects plain entries and a click of its own: Qt 6.8 ignores the first
+/// moves over a QMenu that opens before the program has seen the pointer (it measures how far that
+/// has moved since its last known position, of which there is none after a click on another
+/// program's panel), and a press over a parent menu's widget closes everything. What pointer and
+/// keys do is decided by `MenuInput`, from the events of the windows.
 class StatusMenu : public QWidget, public KeyWindow
 {
     Q_OBJECT
@@ -54,8 +53,9 @@ public:
 
     /// Answers a click on the status item at `anchor`, or at the pointer if the item's place is not
     /// known and the anchor's size is null: opens the menu, or closes it if it is open. The further
-    /// events of a click that has been answered do nothing.
-    void popUpBeside(const QRect& anchor);
+    /// events of a click that has been answered do nothing. The menu keeps off the panels, which
+    /// are given like the anchor in logical coordinates of all screens.
+    void popUpBeside(const QRect& anchor, const QList<QRect>& panels);
     /// Answers a press outside of all menus: closes them, unless it belongs to the click that
     /// opened the menu.
     void pressedOutside(QPoint global);
@@ -76,12 +76,14 @@ private:
     void open();
     void fitToRows();
     [[nodiscard]] QRect placement() const;
+    [[nodiscard]] QRect availableArea() const;
 
     RowColumn* const m_column;
     HostedRow* m_activeRow = nullptr;
     std::unique_ptr<MenuInput> m_input;
 
-    std::optional<QRect> m_anchor;
+    QRect m_anchor;
+    QList<QRect> m_panels;
     ClickGuard m_clicks;
     QElapsedTimer m_clock;
 };
