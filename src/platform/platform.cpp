@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/platform.h"
 
+#include "platform/active_window.h"
 #include "platform/application_folder.h"
 #include "platform/login_services.h"
 #include "platform/terminal_launcher.h"

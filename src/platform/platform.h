@@ -9,6 +9,7 @@
 
 namespace tarnwick {
 
+class ActiveWindow;
 class ApplicationFolder;
 class LoginServices;
 class TerminalLauncher;
@@ -23,6 +24,7 @@ struct Platform
     ~Platform();
 
     std::unique_ptr<TrayHost> trayHost;
+    std::unique_ptr<ActiveWindow> activeWindow;
     /// Keeps the palette with the desktop's; nothing to call.
     std::unique_ptr<QObject> paletteFollower;
     std::unique_ptr<TerminalLauncher> terminal;

@@ -4,6 +4,7 @@
 #include "model/bundle_info.h"
 #include "model/diagnostics.h"
 #include "model/repo_manager.h"
+#include "platform/active_window.h"
 #include "platform/launcher_helper.h"
 #include "platform/platform.h"
 #include "platform/tray_host.h"
@@ -30,6 +31,12 @@ AppDelegate::AppDelegate(Platform& platform, PreferencesStore& store, RepoServic
     , m_appMenu(std::make_shared<ApplicationMenu>(platform, services.runner, store, *this))
 {
     connect(m_appMenu.get(), &ApplicationMenu::settingsRequested, this, &AppDelegate::openSettings);
+    // An open menu holds the keyboard: what is meant for a terminal that has come up would go to
+    // it.
+    connect(platform.activeWindow.get(), &ActiveWindow::changed, this, [this] {
+        if (m_menu)
+            m_menu->dismiss();
+    });
 }
 
 AppDelegate::~AppDelegate()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "model/repo_manager.h"
+#include "platform/active_window.h"
 #include "platform/plain_application_folder.h"
 #include "platform/platform.h"
 #include "platform/tray_host.h"
@@ -43,6 +44,7 @@ private Q_SLOTS:
     {
         Platform platform;
         platform.trayHost = std::make_unique<NoTrayHost>();
+        platform.activeWindow = std::make_unique<ActiveWindow>();
         platform.systemApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_s);
         platform.userApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_s);
         platform.bundleInfo = {{u"CFBundleVersion"_s, u"42"_s}};

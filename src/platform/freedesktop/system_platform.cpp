@@ -4,6 +4,7 @@
 #include "platform/freedesktop/palette_follower.h"
 #include "platform/freedesktop/terminal_launcher.h"
 #include "platform/freedesktop/tray_host.h"
+#include "platform/freedesktop/x11_active_window.h"
 #include "platform/platform.h"
 
 #include <QCoreApplication>
@@ -40,6 +41,7 @@ Platform systemPlatform()
 {
     Platform platform;
     platform.trayHost = std::make_unique<FreedesktopTrayHost>();
+    platform.activeWindow = std::make_unique<X11ActiveWindow>();
     platform.paletteFollower = std::make_unique<PaletteFollower>();
     platform.terminal = std::make_unique<FreedesktopTerminalLauncher>();
     platform.systemApplications =
