@@ -38,7 +38,7 @@ int main(int argc, char* argv[])
     CommandRunner runner({.open = platform.openProgram});
     BackgroundQueue queue;
 
-    AppDelegate delegate(platform, store, {runner, queue, *platform.terminal, store});
+    AppDelegate delegate(platform, bundle, store, {runner, queue, *platform.terminal, store});
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

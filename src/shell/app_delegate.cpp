@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/app_delegate.h"
 
-#include "model/bundle_info.h"
-#include "model/diagnostics.h"
 #include "model/repo_manager.h"
 #include "platform/active_window.h"
 #include "platform/launcher_helper.h"
@@ -22,13 +20,14 @@ AppDelegate* sharedDelegate = nullptr;
 
 } // namespace
 
-AppDelegate::AppDelegate(Platform& platform, PreferencesStore& store, RepoServices services)
+AppDelegate::AppDelegate(Platform& platform, const BundleInfo& bundle, PreferencesStore& store,
+                         RepoServices services)
     : m_platform(platform)
+    , m_bundle(bundle)
     , m_store(store)
     , m_services(services)
-    , m_launchAtLogin(*platform.loginServices, store, BundleInfo(platform.bundleInfo),
-                      launcher::identifier)
-    , m_appMenu(std::make_shared<ApplicationMenu>(platform, services.runner, store, *this))
+    , m_launchAtLogin(*platform.loginServices, store, bundle, launcher::identifier)
+    , m_appMenu(std::make_shared<ApplicationMenu>(platform, bundle, services.runner, store, *this))
 {
     connect(m_appMenu.get(), &ApplicationMenu::settingsRequested, this, &AppDelegate::openSettings);
     // An open menu holds the keyboard: what is meant for a terminal that has come up would go to
@@ -65,9 +64,9 @@ void AppDelegate::menuWillOpen()
 
 void AppDelegate::openSettings()
 {
-    showInWindow(std::make_unique<SettingsView>(
-                     repoManager(), m_store, *this, BundleInfo(m_platform.bundleInfo),
-                     *m_platform.systemApplications, *m_platform.userApplications),
+    showInWindow(std::make_unique<SettingsView>(repoManager(), m_store, *this, m_bundle,
+                                                *m_platform.systemApplications,
+                                                *m_platform.userApplications),
                  tr("Settings"));
 }
 
@@ -108,7 +107,8 @@ void AppDelegate::setLaunchAtLogin(bool enabled)
 
 std::shared_ptr<RepoViewModelDelegate> AppDelegate::newRecordDelegate()
 {
-    return std::make_shared<ApplicationMenu>(m_platform, m_services.runner, m_store, *this);
+    return std::make_shared<ApplicationMenu>(m_platform, m_bundle, m_services.runner, m_store,
+                                             *this);
 }
 
 void AppDelegate::makeStatusItem()
@@ -124,13 +124,6 @@ void AppDelegate::makeStatusItem()
 void AppDelegate::openMenu(const QRect& anchor)
 {
     m_menu->popUpBeside(anchor, m_platform.trayHost->panelRects());
-}
-
-void rebuildMenu()
-{
-    if (!AppDelegate::shared())
-        stopProcess();
-    AppDelegate::shared()->rebuildMenu();
 }
 
 } // namespace tarnwick

@@ -12,6 +12,7 @@
 namespace tarnwick {
 
 class ApplicationMenu;
+class BundleInfo;
 class PreferencesStore;
 class RepoManager;
 class StatusItem;
@@ -26,7 +27,8 @@ class AppDelegate : public QObject, public SettingsHost
 
 public:
     /// What it is given outlives it.
-    AppDelegate(Platform& platform, PreferencesStore& store, RepoServices services);
+    AppDelegate(Platform& platform, const BundleInfo& bundle, PreferencesStore& store,
+                RepoServices services);
     ~AppDelegate() override;
 
     /// The one delegate, from `applicationDidFinishLaunching()` on; nothing before.
@@ -55,6 +57,7 @@ private:
     void openMenu(const QRect& anchor);
 
     Platform& m_platform;
+    const BundleInfo& m_bundle;
     PreferencesStore& m_store;
     const RepoServices m_services;
     LaunchAtLogin m_launchAtLogin;
@@ -64,8 +67,5 @@ private:
     std::unique_ptr<StatusItem> m_statusBarItem;
     std::unique_ptr<StatusMenu> m_menu;
 };
-
-/// Rebuilds the one delegate's menu; stops the process while there is none.
-void rebuildMenu();
 
 } // namespace tarnwick

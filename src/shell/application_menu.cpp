@@ -34,9 +34,11 @@ constexpr auto refreshDelay = 200ms;
 
 } // namespace
 
-ApplicationMenu::ApplicationMenu(Platform& platform, const CommandRunner& runner,
-                                 PreferencesStore& store, SettingsHost& host)
+ApplicationMenu::ApplicationMenu(Platform& platform, const BundleInfo& bundle,
+                                 const CommandRunner& runner, PreferencesStore& store,
+                                 SettingsHost& host)
     : m_platform(platform)
+    , m_bundle(bundle)
     , m_runner(runner)
     , m_store(store)
     , m_host(host)
@@ -52,8 +54,10 @@ std::unique_ptr<StatusMenu> ApplicationMenu::buildMenu(const RepoManager& reposi
     menu->addSeparator();
     if (m_models.empty())
         addEmptyStateItem(*menu);
+    const QList<AppEntry> applications =
+        loadAppEntries(m_store, *m_platform.systemApplications, *m_platform.userApplications);
     for (const auto& record : m_models)
-        addRepositoryItem(record, *menu);
+        addRepositoryItem(record, applications, *menu);
     return menu;
 }
 
@@ -81,9 +85,8 @@ void ApplicationMenu::addd()
 
 void ApplicationMenu::addRefreshRow(StatusMenu& menu) const
 {
-    const BundleInfo bundle(m_platform.bundleInfo);
-    auto controller = std::make_unique<StandardUpdaterController>(updateSettings(bundle), true);
-    auto* const controls = new RefreshView(m_models, std::move(controller), bundle);
+    auto controller = std::make_unique<StandardUpdaterController>(updateSettings(m_bundle), true);
+    auto* const controls = new RefreshView(m_models, std::move(controller), m_bundle);
     connect(controls, &RefreshView::settingsRequested, this, &ApplicationMenu::settingsRequested);
     auto* const row = new HostingView(controls);
     row->setText(controls->text());
@@ -91,24 +94,21 @@ void ApplicationMenu::addRefreshRow(StatusMenu& menu) const
 }
 
 void ApplicationMenu::addRepositoryItem(const std::shared_ptr<RepoViewModel>& record,
-                                        StatusMenu& menu) const
+                                        const QList<AppEntry>& applications, StatusMenu& menu) const
 {
     auto* const status = new RepoStatusView(record, m_store);
     auto* const row = new HostingView(status);
     row->setText(status->text());
     connect(status, &RepoStatusView::textChanged, row,
             [status, row] { row->setText(status->text()); });
-    menu.addRow(row)->setSubmenu(newPanel(record, menu));
+    menu.addRow(row)->setSubmenu(newPanel(record, applications, menu));
     menu.addSeparator();
 }
 
 StatusMenu* ApplicationMenu::newPanel(const std::shared_ptr<RepoViewModel>& record,
-                                      StatusMenu& menu) const
+                                      const QList<AppEntry>& applications, StatusMenu& menu) const
 {
-    auto* const actions = new ActionsView(
-        record,
-        loadAppEntries(m_store, *m_platform.systemApplications, *m_platform.userApplications),
-        m_runner);
+    auto* const actions = new ActionsView(record, applications, m_runner);
     auto* const row = new HostingView(actions);
     row->setText(tr("Actions for %1").arg(record->name()));
     connect(row, &HostingView::aboutToBeShown, actions, &ActionsView::render);

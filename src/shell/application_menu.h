@@ -3,16 +3,19 @@
 
 #include "model/repo_view_model.h"
 
+#include <QList>
 #include <QObject>
 
 #include <memory>
 
 namespace tarnwick {
 
+class BundleInfo;
 class PreferencesStore;
 class RepoManager;
 class SettingsHost;
 class StatusMenu;
+struct AppEntry;
 struct Platform;
 
 /// Makes the status menu. A menu is built as a whole and never edited: when something structural
@@ -23,8 +26,8 @@ class ApplicationMenu : public QObject, public RepoViewModelDelegate
 
 public:
     /// What it is given outlives it.
-    ApplicationMenu(Platform& platform, const CommandRunner& runner, PreferencesStore& store,
-                    SettingsHost& host);
+    ApplicationMenu(Platform& platform, const BundleInfo& bundle, const CommandRunner& runner,
+                    PreferencesStore& store, SettingsHost& host);
 
     /// The records of the menu built last; a refresh works on these, not on the live list.
     [[nodiscard]] const RepoViewModels& models() const { return m_models; }
@@ -51,12 +54,14 @@ Q_SIGNALS:
 
 private:
     void addRefreshRow(StatusMenu& menu) const;
-    void addRepositoryItem(const std::shared_ptr<RepoViewModel>& record, StatusMenu& menu) const;
+    void addRepositoryItem(const std::shared_ptr<RepoViewModel>& record,
+                           const QList<AppEntry>& applications, StatusMenu& menu) const;
     [[nodiscard]] StatusMenu* newPanel(const std::shared_ptr<RepoViewModel>& record,
-                                       StatusMenu& menu) const;
+                                       const QList<AppEntry>& applications, StatusMenu& menu) const;
     void addEmptyStateItem(StatusMenu& menu) const;
 
     Platform& m_platform;
+    const BundleInfo& m_bundle;
     const CommandRunner& m_runner;
     PreferencesStore& m_store;
     SettingsHost& m_host;

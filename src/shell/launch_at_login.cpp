@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/launch_at_login.h"
 
+#include "model/bundle_info.h"
 #include "model/diagnostics.h"
 #include "model/preference_keys.h"
 #include "model/preferences_store.h"
@@ -21,11 +22,11 @@ void reportAnswer(int attempt, bool enabled, bool result)
 
 } // namespace
 
-LaunchAtLogin::LaunchAtLogin(LoginServices& services, PreferencesStore& store, BundleInfo bundle,
-                             QString helperIdentifier)
+LaunchAtLogin::LaunchAtLogin(LoginServices& services, PreferencesStore& store,
+                             const BundleInfo& bundle, QString helperIdentifier)
     : m_services(services)
     , m_store(store)
-    , m_bundle(std::move(bundle))
+    , m_bundle(bundle)
     , m_helperIdentifier(std::move(helperIdentifier))
 {}
 

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/bundle_info.h"
-
 #include <QString>
 
 namespace tarnwick {
 
+class BundleInfo;
 class LoginServices;
 class PreferencesStore;
 
@@ -18,8 +17,8 @@ class PreferencesStore;
 class LaunchAtLogin
 {
 public:
-    /// The services and the store outlive it.
-    LaunchAtLogin(LoginServices& services, PreferencesStore& store, BundleInfo bundle,
+    /// What it is given by reference outlives it.
+    LaunchAtLogin(LoginServices& services, PreferencesStore& store, const BundleInfo& bundle,
                   QString helperIdentifier);
 
     /// Once, when the program has come up. Stops the process if there is a helper to be told, but
@@ -32,7 +31,7 @@ public:
 private:
     LoginServices& m_services;
     PreferencesStore& m_store;
-    const BundleInfo m_bundle;
+    const BundleInfo& m_bundle;
     const QString m_helperIdentifier;
 };
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "model/bundle_info.h"
 #include "model/repo_manager.h"
 #include "platform/active_window.h"
 #include "platform/plain_application_folder.h"
@@ -47,11 +48,11 @@ private Q_SLOTS:
         platform.activeWindow = std::make_unique<ActiveWindow>();
         platform.systemApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_s);
         platform.userApplications = std::make_unique<PlainApplicationFolder>(u"/nonexistent/"_s);
-        platform.bundleInfo = {{u"CFBundleVersion"_s, u"42"_s}};
+        const BundleInfo bundle{{{u"CFBundleVersion"_s, u"42"_s}}};
         platform.loginServices = std::make_unique<RecordingLoginServices>();
         Workbench bench;
         bench.store.setObject(u"/nonexistent/a"_s, u"repos"_s);
-        AppDelegate delegate(platform, bench.store, bench.services());
+        AppDelegate delegate(platform, bundle, bench.store, bench.services());
         QVERIFY(!AppDelegate::shared());
         delegate.applicationDidFinishLaunching();
         QCOMPARE(AppDelegate::shared(), &delegate);
@@ -60,7 +61,7 @@ private Q_SLOTS:
         QTRY_COMPARE(menusVisible(), 1);
         delegate.repoManager().add(u"/nonexistent/b"_s, nullptr);
         QCOMPARE(delegate.appMenu().models().size(), 1);
-        rebuildMenu();
+        delegate.rebuildMenu();
         QCOMPARE(delegate.appMenu().models(), delegate.repoManager().models());
         QCOMPARE(delegate.appMenu().models().size(), 2);
         QTRY_COMPARE(menusVisible(), 0);

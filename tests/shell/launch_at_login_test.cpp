@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "model/bundle_info.h"
 #include "shell/launch_at_login.h"
 #include "support/recording_login_services.h"
 #include "support/stops_process.h"
@@ -60,7 +61,8 @@ private Q_SLOTS:
         QVERIFY(printed.open());
         const int terminal = dup(STDOUT_FILENO);
         dup2(printed.handle(), STDOUT_FILENO);
-        LaunchAtLogin launch(services, bench.store, BundleInfo({}), m_helper);
+        const BundleInfo bundle({});
+        LaunchAtLogin launch(services, bench.store, bundle, m_helper);
         launch.setLaunchAtLogin(false);
         launch.setLaunchAtLogin(true);
         dup2(terminal, STDOUT_FILENO);

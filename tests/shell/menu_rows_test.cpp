@@ -124,9 +124,12 @@ private Q_SLOTS:
     {
         open(3);
         const QRect before = m_menu->geometry();
+        m_menu->openSubmenuOf(*m_rows[1].row);
+        const int panelTop = m_rows[1].panel->y();
         m_rows[0].label->setText(u"one\ntwo\nthree"_s);
         QTRY_VERIFY(m_menu->height() > before.height());
         QCOMPARE(m_menu->pos(), before.topLeft());
+        QCOMPARE(m_rows[1].panel->y() - panelTop, m_menu->height() - before.height());
         QVERIFY(m_rows[1].row->y() > m_rows[0].row->geometry().bottom());
         m_rows[0].label->setText(u"one"_s);
         QTRY_COMPARE(m_menu->geometry(), before);
