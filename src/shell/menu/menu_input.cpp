@@ -173,7 +173,6 @@ bool MenuInput::press(const QWindow& window, QMouseEvent& event)
         m_menu.pressedOutside(global);
         return true;
     }
-    m_rest.stop();
     const HostedRow* const row = menu->column().rowAt(menu->column().mapFromGlobal(global));
     const StatusMenu* const submenu = menu->openSubmenu();
     const bool isElsewhere = receiverOf(window) != menu;
