@@ -31,7 +31,10 @@ bool X11ActiveWindow::nativeEventFilter(const QByteArray& type, void* message, q
         event->window != m_root || event->atom != m_property)
         return false;
     const std::uint32_t active = activeWindow();
-    if (active != XCB_WINDOW_NONE && std::exchange(m_last, active) != active)
+    // The server gives the identifier of a window that has gone to a later one.
+    if (active == XCB_WINDOW_NONE && !exists(m_last))
+        m_last = XCB_WINDOW_NONE;
+    else if (active != XCB_WINDOW_NONE && std::exchange(m_last, active) != active)
         Q_EMIT changed();
     return false;
 }
@@ -45,6 +48,14 @@ std::uint32_t X11ActiveWindow::activeWindow() const
     if (!reply || reply->format != 32 || xcb_get_property_value_length(reply.get()) < 4)
         return XCB_WINDOW_NONE;
     return *static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+}
+
+bool X11ActiveWindow::exists(std::uint32_t window) const
+{
+    const x11::ReplyPointer<xcb_get_window_attributes_reply_t> reply{
+        xcb_get_window_attributes_reply(
+            m_connection, xcb_get_window_attributes_unchecked(m_connection, window), nullptr)};
+    return reply != nullptr;
 }
 
 } // namespace tarnwick

@@ -24,6 +24,8 @@ private:
     /// None while the keyboard is with no window, which it is between two.
     [[nodiscard]] std::uint32_t activeWindow() const;
 
+    [[nodiscard]] bool exists(std::uint32_t window) const;
+
     xcb_connection_t* const m_connection;
     std::uint32_t m_root = 0;
     std::uint32_t m_property = 0;
