@@ -17,7 +17,8 @@ X11ActiveWindow::X11ActiveWindow(QObject* parent)
         return;
     m_root = x11::rootWindow(m_connection);
     m_property = x11::internAtom(m_connection, "_NET_ACTIVE_WINDOW");
-    m_last = activeWindow();
+    const std::uint32_t active = activeWindow();
+    m_last = exists(active) ? active : XCB_WINDOW_NONE;
     // Qt selects the root window's property events.
     qApp->installNativeEventFilter(this);
 }
@@ -31,7 +32,6 @@ bool X11ActiveWindow::nativeEventFilter(const QByteArray& type, void* message, q
         event->window != m_root || event->atom != m_property)
         return false;
     const std::uint32_t active = activeWindow();
-    // The server gives the identifier of a window that has gone to a later one.
     if (active == XCB_WINDOW_NONE && !exists(m_last))
         m_last = XCB_WINDOW_NONE;
     else if (active != XCB_WINDOW_NONE && std::exchange(m_last, active) != active)

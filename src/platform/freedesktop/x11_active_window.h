@@ -24,6 +24,7 @@ private:
     /// None while the keyboard is with no window, which it is between two.
     [[nodiscard]] std::uint32_t activeWindow() const;
 
+    /// The property may name a window that has gone, whose identifier a later one can get.
     [[nodiscard]] bool exists(std::uint32_t window) const;
 
     xcb_connection_t* const m_connection;
