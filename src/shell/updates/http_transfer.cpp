@@ -51,8 +51,7 @@ QString errorText(const QNetworkReply& reply)
     const QString host = reply.url().host();
     if (const int status = statusOf(reply); status >= minErrorStatus)
         return HttpTransfer::tr("The server %1 refused the request (error %2).")
-            .arg(host)
-            .arg(status);
+            .arg(host, QString::number(status));
 
     switch (reply.error()) {
     case QNetworkReply::OperationCanceledError:
@@ -115,12 +114,15 @@ void HttpTransfer::rejectResponse()
     if (!target.isEmpty())
         return followRedirect(m_reply->url().resolved(target));
     fail(tr("The server %1 gives an unexpected answer (%2).")
-             .arg(m_reply->url().host())
-             .arg(status));
+             .arg(m_reply->url().host(), QString::number(status)));
 }
 
 void HttpTransfer::followRedirect(const QUrl& target)
 {
+    if (!isTrustedTarget(m_reply->url(), target)) {
+        return fail(tr("The server %1 redirects to an address that is not secure: %2")
+                        .arg(m_reply->url().host(), originOf(target)));
+    }
     if (++m_redirects > maxRedirects)
         return fail(tr("The server %1 redirects without end.").arg(m_reply->url().host()));
     stop();

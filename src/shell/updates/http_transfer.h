@@ -10,8 +10,8 @@ class QUrl;
 
 namespace tarnwick {
 
-/// Downloads the body of a trusted URL in chunks. Follows a few redirects, but only to trusted
-/// URLs; fails on an inactivity timeout, on any status but 200 and on more than `maxBytes`.
+/// Downloads the body of a trusted URL in chunks. Follows a few redirects to trusted targets;
+/// fails on an inactivity timeout, on any status but 200 and on more than `maxBytes`.
 ///
 /// Ends with exactly one of `succeeded` and `failed`, unless it is stopped or destroyed before.
 class HttpTransfer : public QObject

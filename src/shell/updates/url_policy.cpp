@@ -7,6 +7,20 @@
 
 namespace tarnwick {
 
+namespace {
+
+/// More than the loopback addresses: 0.0.0.0, :: and all names below "localhost" lead here, too.
+bool isThisComputer(QString host)
+{
+    if (host.endsWith(u'.'))
+        host.chop(1);
+    const QHostAddress address(host);
+    return host == u"localhost" || host.endsWith(u".localhost") || address.isLoopback() ||
+           address.isEqual(QHostAddress(QHostAddress::AnyIPv4), QHostAddress::TolerantConversion);
+}
+
+} // namespace
+
 bool isTrustedUrl(const QUrl& url)
 {
     if (!url.isValid() || url.host().isEmpty())
@@ -15,6 +29,11 @@ bool isTrustedUrl(const QUrl& url)
         return true;
     return url.scheme() == u"http" &&
            (url.host() == u"localhost" || QHostAddress(url.host()).isLoopback());
+}
+
+bool isTrustedTarget(const QUrl& from, const QUrl& to)
+{
+    return isTrustedUrl(to) && (isThisComputer(from.host()) || !isThisComputer(to.host()));
 }
 
 bool isWebPage(const QUrl& url)

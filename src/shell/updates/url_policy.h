@@ -9,6 +9,10 @@ namespace tarnwick {
 /// from this computer (127.0.0.0/8, ::1, localhost).
 [[nodiscard]] bool isTrustedUrl(const QUrl& url);
 
+/// Whether a trusted server at `from` may lead to `to` by a redirect or in a feed: `to` is trusted,
+/// and only a server of this computer may lead to a server of this computer.
+[[nodiscard]] bool isTrustedTarget(const QUrl& from, const QUrl& to);
+
 /// An http or https URL with a host.
 [[nodiscard]] bool isWebPage(const QUrl& url);
 
