@@ -13,4 +13,15 @@ QString BundleInfo::requiredText(const QString& key) const
     return value.toString();
 }
 
+QString printableText(const QString& text)
+{
+    QString printable;
+    for (const char32_t character : text.toUcs4()) {
+        if (QChar::isPrint(character) && character != QChar::LineSeparator &&
+            character != QChar::ParagraphSeparator)
+            printable += QChar::fromUcs4(character);
+    }
+    return printable;
+}
+
 } // namespace tarnwick

@@ -25,4 +25,8 @@ private:
     QJsonObject m_values;
 };
 
+/// The text without control, format, private-use and unassigned characters and line breaks, which
+/// could make a version look like something else.
+[[nodiscard]] QString printableText(const QString& text);
+
 } // namespace tarnwick

@@ -99,12 +99,12 @@ private Q_SLOTS:
               <s:releaseNotesLink> https://example.org/notes </s:releaseNotesLink>
               <description s:format="plain-text">a &lt; b</description>
               <enclosure url="https://example.org/a.deb" length="12" s:version="3"
-                         s:shortVersionString="1.2" s:edSignature="c2ln" type="x/y"/>
+                         s:shortVersionString="&#x202e;1.2&#x2028;&#x1F600;" s:edSignature="c2ln" type="x/y"/>
             </item></channel></rss>)",
                                         u"linux"_s);
         QVERIFY(items && items->size() == 1);
         const AppcastItem& item = items->first();
-        QCOMPARE(item.name(), u"1.2"_s);
+        QCOMPARE(item.name(), u"1.2\U0001F600"_s);
         QCOMPARE(item.notes, u"a < b"_s);
         QVERIFY(item.notesArePlainText);
         QCOMPARE(item.notesLink, QUrl(u"https://example.org/notes"_s));
@@ -125,6 +125,28 @@ private Q_SLOTS:
             QVERIFY2(!isTrustedUrl(QUrl::fromEncoded(url)), url);
     }
 
+    void trustedTargets_data()
+    {
+        const auto row = table<QByteArray, QByteArray, bool>("from", "to", "isTrusted");
+        row("elsewhere", "https://example.org/a", "https://example.com/", true);
+        row("to http", "https://example.org/a", "http://example.org/", false);
+        for (const auto* host : {"localhost", "a.localhost.", "127.0.0.1", "127.1", "2130706433",
+                                 "[::1]", "[::ffff:127.0.0.1]", "0.0.0.0", "[::]"}) {
+            row(host, "https://example.org/a", QByteArray("https://") + host + "/", false);
+            row(host, "http://localhost/a", QByteArray("https://") + host + "/", true);
+        }
+        row("loopback http", "https://example.org/a", "http://127.0.0.1/", false);
+        row("from loopback", "http://127.0.0.1/a", "http://127.0.0.1/b", true);
+        row("from loopback to https", "http://127.0.0.1/a", "https://example.org/", true);
+    }
+
+    void trustedTargets()
+    {
+        QFETCH(QByteArray, from);
+        QFETCH(QByteArray, to);
+        QTEST(isTrustedTarget(QUrl::fromEncoded(from), QUrl::fromEncoded(to)), "isTrusted");
+    }
+
     void fileNames()
     {
         const auto nameOf = [](const QString& path) {
@@ -140,9 +162,13 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString name = nameOf(QString(300, u'\u00e4') + u".tar.gz"_s);
         QVERIFY(name.endsWith(u"\u00e4.tar.gz"_s));
-        writeFile(folder.filePath(name), "in use");
-        QVERIFY(QFile::link(u"/nonexistent"_s, unusedPath(folder.path(), name)));
-        QVERIFY(unusedPath(folder.path(), name).endsWith(u"\u00e4 (3).tar.gz"_s));
+        QCOMPARE(nameOf(u"\U00010300"_s.repeated(100)), u"\U00010300"_s.repeated(50));
+        QCOMPARE(nameOf(u"a"_s + u"\U00010300"_s.repeated(100)),
+                 u'a' + u"\U00010300"_s.repeated(49));
+        writeFile(folder.filePath(u"%3%1.tar.gz"_s), "in use");
+        const auto path = [&] { return unusedPath(folder.path(), u"%3%1.tar.gz"_s); };
+        QVERIFY(QFile::link(u"/nonexistent"_s, path()));
+        QCOMPARE(path(), folder.filePath(u"%3%1 (3).tar.gz"_s));
     }
 };
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/updates/appcast.h"
 
+#include "model/bundle_info.h"
+
 #include <QSysInfo>
 #include <QXmlStreamReader>
 
@@ -134,8 +136,8 @@ std::optional<AppcastItem> itemFor(const QString& system, const RawItem& raw)
         item.length = enclosure->length;
         item.signature = enclosure->signature;
     }
-    item.version.truncate(maxVersionLength);
-    item.shortVersion.truncate(maxVersionLength);
+    for (QString* const version : {&item.version, &item.shortVersion})
+        *version = printableText(version->left(maxVersionLength));
     return item.version.isEmpty() ? std::nullopt : std::optional(item);
 }
 

@@ -12,7 +12,8 @@
 
 namespace tarnwick {
 
-/// One version of a feed. Every field but `version` may be missing. Long versions are cut off.
+/// One version of a feed. Every field but `version` may be missing. Versions consist of
+/// printable characters and are cut off if they are long.
 struct AppcastItem
 {
     /// The build number, by which versions are compared; never empty.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/updates/partial_file.h"
 
+#include "model/bundle_info.h"
 #include "shell/updates/signature.h"
 
 #include <QCoreApplication>
@@ -8,23 +9,15 @@
 #include <QFileInfo>
 #include <QUrl>
 
-#include <algorithm>
-
 namespace tarnwick {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 /// Leaves room for a number within the 255 bytes that file systems allow.
 constexpr qsizetype maxNameBytes = 200;
 constexpr qsizetype maxSuffixLength = 20;
-/// Only the end of a longer name is used: shortening takes quadratic time.
-constexpr qsizetype maxNameLength = 1000;
-
-bool isUnsafe(QChar character)
-{
-    static const QString reserved = QStringLiteral(":*?\"<>|");
-    return !character.isPrint() || reserved.contains(character);
-}
 
 struct NameParts
 {
@@ -46,10 +39,15 @@ NameParts partsOf(const QString& name)
 
 QString shortened(const QString& name)
 {
-    auto [stem, suffix] = partsOf(name);
-    while (stem.toUtf8().size() + suffix.toUtf8().size() > maxNameBytes)
-        stem.chop(1);
-    return stem + suffix;
+    const auto [stem, suffix] = partsOf(name);
+    const QByteArray bytes = stem.toUtf8();
+    qsizetype size = maxNameBytes - suffix.toUtf8().size();
+    if (bytes.size() <= size)
+        return name;
+    // Not within the bytes of one character.
+    while ((bytes[size] & 0xc0) == 0x80)
+        --size;
+    return QString::fromUtf8(bytes.left(size)) + suffix;
 }
 
 } // namespace
@@ -58,8 +56,8 @@ QString safeFileName(const QUrl& url)
 {
     QString name = url.path(QUrl::FullyDecoded);
     name.replace(u'\\', u'/');
-    name = name.section(u'/', -1).right(maxNameLength);
-    name.erase(std::remove_if(name.begin(), name.end(), isUnsafe), name.end());
+    name = printableText(name.section(u'/', -1));
+    name.removeIf([](QChar character) { return u":*?\"<>|"_s.contains(character); });
     while (name.startsWith(u'.') || name.startsWith(u' '))
         name.remove(0, 1);
     while (name.endsWith(u'.') || name.endsWith(u' '))
@@ -73,7 +71,7 @@ QString unusedPath(const QString& folder, const QString& fileName)
     QFileInfo file(QDir(folder), fileName);
     // A dangling symbolic link does not "exist".
     for (int number = 2; file.exists() || file.isSymLink(); ++number)
-        file.setFile(QDir(folder), QStringLiteral("%1 (%2)%3").arg(stem).arg(number).arg(suffix));
+        file.setFile(QDir(folder), u"%1 (%2)%3"_s.arg(stem, QString::number(number), suffix));
     return file.absoluteFilePath();
 }
 
