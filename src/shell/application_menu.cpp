@@ -85,7 +85,8 @@ void ApplicationMenu::addd()
 
 void ApplicationMenu::addRefreshRow(StatusMenu& menu) const
 {
-    auto controller = std::make_unique<StandardUpdaterController>(updateSettings(m_bundle), true);
+    auto controller =
+        std::make_unique<StandardUpdaterController>(updateSettings(m_bundle, m_runner), true);
     auto* const controls = new RefreshView(m_models, std::move(controller), m_bundle);
     connect(controls, &RefreshView::settingsRequested, this, &ApplicationMenu::settingsRequested);
     auto* const row = new HostingView(controls);

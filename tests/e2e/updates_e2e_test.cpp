@@ -19,24 +19,30 @@ class UpdatesE2eTest : public QObject
 private Q_SLOTS:
     void cleanup() { key(u"Escape"_s); }
 
-    void downloadIsVerifiedAndOpened_data()
+    void downloadIsVerifiedAndShown_data()
     {
-        const auto row = table<QByteArray, QString, bool>("served", "conclusion", "isKept");
-        row("genuine", "the new version", u"Tarnwick 1.3 has been downloaded"_s, true);
-        row("tampered", "the bad version", u"The new version could not be downloaded"_s, false);
+        const auto row = table<QString, QByteArray, QString, bool, bool>(
+            "fileName", "served", "conclusion", "isOpened", "isRevealed");
+        const QString success = u"Tarnwick 1.3 has been downloaded"_s;
+        row("package", u"tarnwick %1.deb"_s, "the new version", success, true, false);
+        row("desktop entry", u"tarnwick.desktop"_s, "the new version", success, false, true);
+        row("tampered", u"tarnwick %1.deb"_s, "the bad version",
+            u"The new version could not be downloaded"_s, false, false);
     }
 
-    void downloadIsVerifiedAndOpened()
+    void downloadIsVerifiedAndShown()
     {
+        QFETCH(QString, fileName);
         QFETCH(QByteArray, served);
         QFETCH(QString, conclusion);
-        QFETCH(bool, isKept);
+        QFETCH(bool, isOpened);
+        QFETCH(bool, isRevealed);
         const OutsideWorld world;
         const SignedUpdate update("the new version");
         LoopbackServer server;
-        const QByteArray package = server.url("/files/tarnwick-10.txt").toEncoded();
-        server.answer("/feed", LoopbackServer::bytes(update.feed(package)));
-        server.answer("/files/tarnwick-10.txt", LoopbackServer::bytes(served));
+        const QByteArray path = "/files/" + QUrl::toPercentEncoding(fileName);
+        server.answer("/feed", LoopbackServer::bytes(update.feed(path)));
+        server.answer(path, LoopbackServer::bytes(served));
 
         QProcess::execute(u"cp"_s,
                           {u"-a"_s, QStringLiteral(TARNWICK_INSTALLED), world.path(u"app"_s)});
@@ -54,15 +60,15 @@ private Q_SLOTS:
         QVERIFY(clickNamed(u"Download"_s));
         QVERIFY(!appeared(conclusion).name.isEmpty());
 
-        const QString file = world.path(u"home/Downloads/tarnwick-10.txt"_s);
-        const auto files =
-            QDir(world.path(u"home/Downloads"_s)).entryList(QDir::Files | QDir::Hidden);
-        QCOMPARE(files, isKept ? QStringList{u"tarnwick-10.txt"_s} : QStringList());
-        QTRY_COMPARE_WITH_TIMEOUT(
-            world.started(),
-            isKept ? QStringList{u"<app><--open><%1><--name><Recorder><end>"_s.arg(file)}
-                   : QStringList(),
-            10000);
+        const QString file = world.path(u"home/Downloads/"_s + fileName);
+        const auto started = u"<app><--open><"_s + file + u"><--name><Recorder><end>"_s;
+        const auto listIf = [](bool isExpected, const QString& text) {
+            return isExpected ? QStringList(text) : QStringList();
+        };
+        QCOMPARE(QDir(world.path(u"home/Downloads"_s)).entryList(QDir::Files | QDir::Hidden),
+                 listIf(isOpened || isRevealed, fileName));
+        QTRY_COMPARE_WITH_TIMEOUT(world.started(), listIf(isOpened, started), 10000);
+        QTRY_COMPARE(world.revealed(), listIf(isRevealed, file));
         QVERIFY(clickNamed(u"Close"_s));
     }
 };

@@ -51,7 +51,7 @@ class UpdatesWindowTest : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_settings = {m_server.url("/feed"), m_update.publicKey(), u"10"_s, m_folder.path()};
+        m_settings = {m_server.url("/feed"), m_update.publicKey(), u"10"_s, m_folder.path(), {}};
     }
 
     void oneCheckAtATime()
@@ -87,8 +87,9 @@ private Q_SLOTS:
         m_server.answer("/pkg",
                         [](QTcpSocket& client) { client.write("HTTP/1.1 200 OK\r\n\r\nco"); });
         for (const bool isFeedPending : {true, false}) {
-            m_server.answer("/feed", isFeedPending ? LoopbackServer::noResponse()
-                                                   : LoopbackServer::bytes(m_update.feed("pkg")));
+            m_server.answer("/feed", isFeedPending
+                                         ? LoopbackServer::noResponse()
+                                         : LoopbackServer::bytes(m_update.feed("pkg")));
             StandardUpdaterController controller(m_settings, true);
             controller.updater().checkForUpdates();
             const QWidget& window = *windows().first();

@@ -7,6 +7,7 @@
 #include "shell/updates/url_policy.h"
 
 #include <QDesktopServices>
+#include <QRegularExpression>
 
 namespace tarnwick {
 
@@ -15,6 +16,16 @@ namespace {
 constexpr qint64 mebibyte = 1'048'576;
 constexpr qint64 maxFeedBytes = mebibyte;
 constexpr qint64 maxDownloadBytes = 2048 * mebibyte;
+
+/// Formats that the desktop opens in an installer or an archive manager. Others, such as desktop
+/// entries, AppImages and scripts, might be run.
+bool isPackage(const QString& path)
+{
+    static const QRegularExpression suffix(
+        QStringLiteral("\\.(deb|rpm|flatpak|dmg|zip|tar\\.(gz|bz2|xz|zst))$"),
+        QRegularExpression::CaseInsensitiveOption);
+    return path.contains(suffix);
+}
 
 } // namespace
 
@@ -63,7 +74,7 @@ QString UpdateSession::downloadObstacle(const AppcastItem& item) const
                   "from a forged one.")
             .arg(item.name());
     }
-    if (!isTrustedUrl(item.url)) {
+    if (!isTrustedTarget(m_settings.feed, item.url)) {
         return tr("Tarnwick %1 is available, but there is no secure address to download it from.")
             .arg(item.name());
     }
@@ -95,7 +106,9 @@ void UpdateSession::download()
 void UpdateSession::openDownload(const QString& path)
 {
     m_savedPath = path;
-    m_isOpened = QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    m_isOpened = isPackage(path) && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    if (!m_isOpened)
+        m_settings.showInFolder(path);
     setState(State::Saved);
 }
 

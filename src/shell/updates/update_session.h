@@ -11,8 +11,9 @@
 
 namespace tarnwick {
 
-/// One check for updates: reads the feed, offers the newest version, downloads it on request and
-/// opens the verified file with the desktop's application for it. Installs and runs nothing.
+/// One check for updates: reads the feed, offers the newest
+/// version, downloads it on request, and asks the desktop to open the verified file if it is a
+/// package, or else to show it in its folder. Installs and runs nothing.
 ///
 /// Destruction cancels whatever is in progress. Main thread.
 class UpdateSession : public QObject
@@ -47,7 +48,7 @@ public:
     [[nodiscard]] const std::optional<AppcastItem>& offer() const { return m_offer; }
     [[nodiscard]] qint64 receivedBytes() const { return m_receivedBytes; }
     [[nodiscard]] const QString& savedPath() const { return m_savedPath; }
-    /// Whether the desktop accepted the file.
+    /// Whether the desktop was asked to open the file, and not just to show it.
     [[nodiscard]] bool isOpened() const { return m_isOpened; }
     /// Sentences for the user.
     [[nodiscard]] const QString& error() const { return m_error; }

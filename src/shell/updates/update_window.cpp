@@ -5,6 +5,7 @@
 #include "shell/updates/url_policy.h"
 
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLabel>
@@ -59,13 +60,12 @@ Texts downloadTexts(const UpdateSession& session)
 Texts savedTexts(const UpdateSession& session)
 {
     const QFileInfo file(session.savedPath());
-    const QString advice =
-        session.isOpened()
-            ? UpdateWindow::tr("It is being opened, so that you can install it.")
-            : UpdateWindow::tr("No program was found that opens it. Please install it by hand.");
+    const QString request = session.isOpened()
+                                ? UpdateWindow::tr("Your desktop has been asked to open it.")
+                                : UpdateWindow::tr("Your file manager has been asked to show it.");
     return {UpdateWindow::tr("Tarnwick %1 has been downloaded").arg(session.offer()->name()),
             UpdateWindow::tr("The file “%1” is in the folder %2. %3")
-                .arg(file.fileName(), file.path(), advice),
+                .arg(file.fileName(), QDir::toNativeSeparators(file.path()), request),
             UpdateWindow::tr("Close")};
 }
 
@@ -84,7 +84,7 @@ Texts windowTexts(const UpdateSession& session)
     case State::Downloading:
         return downloadTexts(session);
     case State::Verifying:
-        return {UpdateWindow::tr("Examining the download …"), {}, UpdateWindow::tr("Cancel")};
+        return {UpdateWindow::tr("Verifying the download …"), {}, UpdateWindow::tr("Cancel")};
     case State::Saved:
         return savedTexts(session);
     case State::Failed:

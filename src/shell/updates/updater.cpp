@@ -2,6 +2,7 @@
 #include "shell/updates/updater.h"
 
 #include "model/bundle_info.h"
+#include "model/command_runner.h"
 #include "shell/content_window.h"
 #include "shell/updates/update_window.h"
 #include "shell/updates/url_policy.h"
@@ -10,13 +11,14 @@
 
 namespace tarnwick {
 
-UpdateSettings updateSettings(const BundleInfo& info)
+UpdateSettings updateSettings(const BundleInfo& info, const CommandRunner& runner)
 {
     return {
         .feed = QUrl(info.text(QStringLiteral("SUFeedURL"))),
         .publicKey = info.text(QStringLiteral("SUPublicEDKey")).toLatin1(),
-        .buildNumber = info.requiredText(QStringLiteral("CFBundleVersion")),
+        .buildNumber = printableText(info.requiredText(QStringLiteral("CFBundleVersion"))),
         .downloadFolder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation),
+        .showInFolder = [&runner](const QString& path) { revealInFinder(path, runner); },
     };
 }
 

@@ -5,9 +5,12 @@
 #include <QObject>
 #include <QUrl>
 
+#include <functional>
+
 namespace tarnwick {
 
 class BundleInfo;
+class CommandRunner;
 
 struct UpdateSettings
 {
@@ -17,11 +20,13 @@ struct UpdateSettings
     QByteArray publicKey;
     QString buildNumber;
     QString downloadFolder;
+    /// Asks the file manager to show a file in its folder.
+    std::function<void(const QString& path)> showInFolder;
 };
 
 /// The packaged values and the user's own download folder. Stops the process where there is no
-/// build number.
-[[nodiscard]] UpdateSettings updateSettings(const BundleInfo& info);
+/// build number. The runner outlives the settings.
+[[nodiscard]] UpdateSettings updateSettings(const BundleInfo& info, const CommandRunner& runner);
 
 /// Starts checks for updates, one at a time, each in a window of its own. The window outlives this
 /// object if it has to; another updater may then start a second one. Nothing is checked unless
