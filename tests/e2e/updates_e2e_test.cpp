@@ -41,7 +41,7 @@ private Q_SLOTS:
         const SignedUpdate update("the new version");
         LoopbackServer server;
         const QByteArray path = "/files/" + QUrl::toPercentEncoding(fileName);
-        server.answer("/feed", LoopbackServer::bytes(update.feed(path)));
+        server.answer("/feed", LoopbackServer::bytes(update.signedFeed(path)));
         server.answer(path, LoopbackServer::bytes(served));
 
         QProcess::execute(u"cp"_s,

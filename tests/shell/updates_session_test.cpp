@@ -43,7 +43,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, path);
         QFETCH(QString, fileName);
         QFETCH(bool, isOpened);
-        m_server.answer("/feed", LoopbackServer::bytes(m_update.feed("pkg/" + path)));
+        m_server.answer("/feed", LoopbackServer::bytes(m_update.signedFeed("pkg/" + path)));
         m_server.answer("/pkg/" + path, LoopbackServer::redirect("/elsewhere"));
         m_server.answer("/elsewhere", LoopbackServer::bytes(m_update.content()));
         QDesktopServices::setUrlHandler(u"file"_s, this, "open");
@@ -66,15 +66,20 @@ private Q_SLOTS:
         QVERIFY(!file.permissions().testAnyFlag(QFile::ExeOwner));
     }
 
-    /// Each row changes one thing of a valid update: the feed's path, the key or a text in the
-    /// feed.
+    /// Each row changes one thing of a valid update: the feed's path, the key or a text that
+    /// is replaced before the feed is signed.
     void failuresAreReportedAndLeaveNoFile_data()
     {
         const auto row = table<QByteArray, QByteArray, QByteArray, QByteArray, QString>(
             "feed", "publicKey", "search", "replacement", "error");
         const QByteArray key = m_update.publicKey();
         row("no feed", "/missing", key, {}, {}, u"refused the request (error 404)"_s);
-        row("web page", "/html", key, {}, {}, u"cannot be read"_s);
+        row("web page", "/html", key, {}, {}, u"was not signed"_s);
+        row("signed web page", "/signed-html", key, {}, {}, u"cannot be read"_s);
+        row("unsigned feed", "/unsigned", key, {}, {}, u"was not signed"_s);
+        row("empty signature", "/empty-signature", key, {}, {}, u"was not signed"_s);
+        row("changed feed", "/changed", key, {}, {}, u"was not signed"_s);
+        row("extended feed", "/extended", key, {}, {}, u"was not signed"_s);
         row("feed too long", "/long", key, {}, {}, u"more than it should"_s);
         row("truncated feed", "/truncated", key, {}, {}, u"broke the connection off"_s);
         row("redirect to http", "/to-http", key, {}, {}, u"not secure: http://192.0.2.1"_s);
@@ -82,7 +87,8 @@ private Q_SLOTS:
         row("no key", "/feed", {}, {}, {}, u"without the key"_s);
         row("short key", "/feed", key.mid(4), {}, {}, u"without the key"_s);
         const QByteArray length = "length=\"" + QByteArray::number(m_update.content().size());
-        row("unsigned", "/feed", key, m_update.signature(), {}, u"not signed"_s);
+        row("other key", "/feed", SignedUpdate({}).publicKey(), {}, {}, u"was not signed"_s);
+        row("unsigned download", "/feed", key, m_update.signature(), {}, u"is not signed"_s);
         row("no length", "/feed", key, length, "x=\"", u"size"_s);
         row("negative length", "/feed", key, length, "length=\"-1", u"size"_s);
         row("length too large", "/feed", key, length, "length=\"2147483649", u"size"_s);
@@ -105,8 +111,15 @@ private Q_SLOTS:
 
         const QByteArray& content = m_update.content();
         const QByteArray name = "/Tarnwick%201.3.deb";
-        m_server.answer("/html", LoopbackServer::bytes("<html><p>Sign in</p></html>", "200 OK",
-                                                       "Content-Type: text/html"));
+        const QByteArray page = "<html><p>Sign in</p></html>";
+        m_server.answer("/html", LoopbackServer::bytes(page));
+        m_server.answer("/signed-html", LoopbackServer::bytes(m_update.signedText(page)));
+        QByteArray changed = m_update.unsignedFeed("pkg" + name);
+        m_server.answer("/unsigned", LoopbackServer::bytes(changed));
+        m_server.answer("/empty-signature", LoopbackServer::bytes(changed + "<!-- signature: -->"));
+        const QByteArray valid = m_update.signedFeed("pkg" + name);
+        m_server.answer("/changed", LoopbackServer::bytes(QByteArray(valid).replace("1.3", "1.4")));
+        m_server.answer("/extended", LoopbackServer::bytes(valid + "<!-- more -->"));
         m_server.answer("/long", LoopbackServer::bytes(QByteArray(1024 * 1024 + 1, ' ')));
         m_server.answer("/truncated", LoopbackServer::truncated("<rss>"));
         m_server.answer("/to-http", LoopbackServer::redirect("http://192.0.2.1/feed"));
@@ -116,10 +129,9 @@ private Q_SLOTS:
         m_server.answer("/shorter" + name, LoopbackServer::bytes(content.chopped(1)));
         m_server.answer("/longer" + name, LoopbackServer::bytes(content + '!'));
         m_server.answer("/truncated" + name, LoopbackServer::truncated(content.left(100)));
-        QByteArray changed = m_update.feed("pkg" + name);
         if (!search.isEmpty())
             changed.replace(search, replacement);
-        m_server.answer("/feed", LoopbackServer::bytes(changed));
+        m_server.answer("/feed", LoopbackServer::bytes(m_update.signedText(changed)));
 
         m_settings.feed = m_server.url(feed);
         m_settings.publicKey = publicKey;

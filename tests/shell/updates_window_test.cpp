@@ -56,7 +56,7 @@ private Q_SLOTS:
 
     void oneCheckAtATime()
     {
-        m_server.answer("/feed", LoopbackServer::bytes(m_update.feed("pkg")));
+        m_server.answer("/feed", LoopbackServer::bytes(m_update.signedFeed("pkg")));
         std::optional<StandardUpdaterController> controller(std::in_place, m_settings, false);
         Updater& updater = controller->updater();
         const QSignalSpy changes(&updater, &Updater::canCheckForUpdatesChanged);
@@ -89,7 +89,7 @@ private Q_SLOTS:
         for (const bool isFeedPending : {true, false}) {
             m_server.answer("/feed", isFeedPending
                                          ? LoopbackServer::noResponse()
-                                         : LoopbackServer::bytes(m_update.feed("pkg")));
+                                         : LoopbackServer::bytes(m_update.signedFeed("pkg")));
             StandardUpdaterController controller(m_settings, true);
             controller.updater().checkForUpdates();
             const QWidget& window = *windows().first();

@@ -14,21 +14,22 @@ public:
     explicit SignedUpdate(QByteArray content)
         : m_content(std::move(content))
     {
-        QByteArray secretKey(crypto_sign_SECRETKEYBYTES, 0);
-        QByteArray publicKey(crypto_sign_PUBLICKEYBYTES, 0);
-        QByteArray signature(crypto_sign_BYTES, 0);
-        crypto_sign_keypair(bytes(publicKey), bytes(secretKey));
-        crypto_sign_detached(bytes(signature), nullptr, bytes(m_content),
-                             static_cast<unsigned long long>(m_content.size()), bytes(secretKey));
-        m_publicKey = publicKey.toBase64();
-        m_signature = signature.toBase64();
+        crypto_sign_keypair(bytes(m_publicKey), bytes(m_secretKey));
     }
 
     [[nodiscard]] const QByteArray& content() const { return m_content; }
-    [[nodiscard]] const QByteArray& publicKey() const { return m_publicKey; }
-    [[nodiscard]] const QByteArray& signature() const { return m_signature; }
+    [[nodiscard]] QByteArray publicKey() const { return m_publicKey.toBase64(); }
+    [[nodiscard]] QByteArray signature() const { return signatureOf(m_content); }
 
-    [[nodiscard]] QByteArray feed(const QByteArray& url) const
+    [[nodiscard]] QByteArray signedFeed(const QByteArray& url) const
+    {
+        return signedText(unsignedFeed(url));
+    }
+    [[nodiscard]] QByteArray signedText(const QByteArray& text) const
+    {
+        return text + "<!-- signature: " + signatureOf(text) + " -->\n";
+    }
+    [[nodiscard]] QByteArray unsignedFeed(const QByteArray& url) const
     {
         return R"(<rss xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle">
             <channel><item><sparkle:version>10</sparkle:version>
@@ -36,15 +37,23 @@ public:
             <description><![CDATA[<p>Faster <b>menus</b>.</p>]]></description>
             <enclosure url=")" +
                url + R"(" length=")" + QByteArray::number(m_content.size()) +
-               R"(" sparkle:edSignature=")" + m_signature + R"("/></item></channel></rss>)";
+               R"(" sparkle:edSignature=")" + signature() + "\"/></item></channel></rss>\n";
     }
 
 private:
+    [[nodiscard]] QByteArray signatureOf(QByteArray message) const
+    {
+        QByteArray secretKey = m_secretKey;
+        QByteArray signature(crypto_sign_BYTES, 0);
+        crypto_sign_detached(bytes(signature), nullptr, bytes(message),
+                             static_cast<unsigned long long>(message.size()), bytes(secretKey));
+        return signature.toBase64();
+    }
     static uchar* bytes(QByteArray& array) { return reinterpret_cast<uchar*>(array.data()); }
 
     QByteArray m_content;
-    QByteArray m_publicKey;
-    QByteArray m_signature;
+    QByteArray m_publicKey = QByteArray(crypto_sign_PUBLICKEYBYTES, 0);
+    QByteArray m_secretKey = QByteArray(crypto_sign_SECRETKEYBYTES, 0);
 };
 
 } // namespace tarnwick::test

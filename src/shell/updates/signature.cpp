@@ -42,4 +42,18 @@ bool isSignedBy(const QByteArray& publicKey, const QByteArray& signature, const 
                                        bytesOf(publicKey)) == 0;
 }
 
+std::optional<QByteArray> verifiedText(const QByteArray& publicKey, const QByteArray& signedText)
+{
+    const QByteArray commentStart = "<!-- signature: ";
+    const QByteArray commentEnd = " -->";
+    const qsizetype size = signedText.lastIndexOf(commentStart);
+    QByteArray signature = signedText.mid(size + commentStart.size()).trimmed();
+    if (size < 0 || !signature.endsWith(commentEnd))
+        return {};
+    signature.chop(commentEnd.size());
+    if (!isSignedBy(publicKey, decodedSignature(signature), bytesOf(signedText), size))
+        return {};
+    return signedText.left(size);
+}
+
 } // namespace tarnwick

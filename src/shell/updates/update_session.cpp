@@ -36,6 +36,11 @@ UpdateSession::UpdateSession(UpdateSettings settings, QObject* parent)
 
 void UpdateSession::start()
 {
+    if (decodedPublicKey(m_settings.publicKey).isEmpty()) {
+        return fail(
+            tr("This copy of Tarnwick was made without the key that tells a genuine version "
+               "from a forged one."));
+    }
     auto* const transfer = new HttpTransfer(m_network, maxFeedBytes, this);
     connect(transfer, &HttpTransfer::dataReceived, this,
             [this](const QByteArray& bytes) { m_feed += bytes; });
@@ -46,7 +51,12 @@ void UpdateSession::start()
 
 void UpdateSession::readFeed()
 {
-    const auto items = parseAppcast(m_feed, appcastSystem());
+    const auto feed = verifiedText(decodedPublicKey(m_settings.publicKey), m_feed);
+    if (!feed) {
+        return fail(tr("The server's list of updates was not signed by the people who make "
+                       "Tarnwick."));
+    }
+    const auto items = parseAppcast(*feed, appcastSystem());
     if (!items)
         return fail(tr("The server's list of updates cannot be read."));
 
@@ -64,11 +74,6 @@ void UpdateSession::readFeed()
 
 QString UpdateSession::downloadObstacle(const AppcastItem& item) const
 {
-    if (decodedPublicKey(m_settings.publicKey).isEmpty()) {
-        return tr("Tarnwick %1 is available, but this copy of Tarnwick was made without the key "
-                  "that tells a genuine download from a forged one.")
-            .arg(item.name());
-    }
     if (decodedSignature(item.signature).isEmpty()) {
         return tr("Tarnwick %1 is available, but its download is not signed, so it cannot be told "
                   "from a forged one.")

@@ -11,7 +11,7 @@
 
 namespace tarnwick {
 
-/// One check for updates: reads the feed, offers the newest
+/// One check for updates: reads the feed, which has to be signed as a whole, offers the newest
 /// version, downloads it on request, and asks the desktop to open the verified file if it is a
 /// package, or else to show it in its folder. Installs and runs nothing.
 ///
