@@ -61,14 +61,13 @@ private Q_SLOTS:
         QVERIFY(!appeared(conclusion).name.isEmpty());
 
         const QString file = world.path(u"home/Downloads/"_s + fileName);
-        const auto started = u"<app><--open><"_s + file + u"><--name><Recorder><end>"_s;
-        const auto listIf = [](bool isExpected, const QString& text) {
-            return isExpected ? QStringList(text) : QStringList();
-        };
-        QCOMPARE(QDir(world.path(u"home/Downloads"_s)).entryList(QDir::Files | QDir::Hidden),
-                 listIf(isOpened || isRevealed, fileName));
-        QTRY_COMPARE_WITH_TIMEOUT(world.started(), listIf(isOpened, started), 10000);
-        QTRY_COMPARE(world.revealed(), listIf(isRevealed, file));
+        const QString started = u"<app><--open><"_s + file + u"><--name><Recorder><end>"_s;
+        const auto saved =
+            QDir(world.path(u"home/Downloads"_s)).entryList(QDir::Files | QDir::Hidden);
+        QCOMPARE(saved.join(u'/'), isOpened || isRevealed ? fileName : QString());
+        QTRY_COMPARE_WITH_TIMEOUT(world.started().join(u'/'), isOpened ? started : QString(),
+                                  10000);
+        QTRY_COMPARE(world.revealed().join(u'/'), isRevealed ? file : QString());
         QVERIFY(clickNamed(u"Close"_s));
     }
 };

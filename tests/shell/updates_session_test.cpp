@@ -35,7 +35,6 @@ private Q_SLOTS:
         row("archive", "%251%202%20%F0%90%8C%80.TAR.XZ", u"%1 2 \U00010300.TAR.XZ"_s, true);
         row("desktop entry", "a.deb.desktop", u"a.deb.desktop"_s, false);
         row("program", "Tarnwick.AppImage", u"Tarnwick.AppImage"_s, false);
-        row("no suffix", "deb", u"deb"_s, false);
     }
 
     void onlyPackagesAreOpened()
@@ -66,6 +65,18 @@ private Q_SLOTS:
         QVERIFY(!file.permissions().testAnyFlag(QFile::ExeOwner));
     }
 
+    void unusableFolderIsReported()
+    {
+        m_settings.downloadFolder = QCoreApplication::applicationFilePath();
+        m_server.answer("/feed", LoopbackServer::bytes(m_update.signedFeed("pkg")));
+        UpdateSession session(m_settings);
+        session.start();
+        QTRY_COMPARE(session.state(), State::Offering);
+        session.download();
+        QCOMPARE(session.state(), State::Failed);
+        QVERIFY2(session.error().contains(u"cannot be saved in"_s), qPrintable(session.error()));
+    }
+
     /// Each row changes one thing of a valid update: the feed's path, the key or a text that
     /// is replaced before the feed is signed.
     void failuresAreReportedAndLeaveNoFile_data()
@@ -77,7 +88,6 @@ private Q_SLOTS:
         row("web page", "/html", key, {}, {}, u"was not signed"_s);
         row("signed web page", "/signed-html", key, {}, {}, u"cannot be read"_s);
         row("unsigned feed", "/unsigned", key, {}, {}, u"was not signed"_s);
-        row("empty signature", "/empty-signature", key, {}, {}, u"was not signed"_s);
         row("changed feed", "/changed", key, {}, {}, u"was not signed"_s);
         row("extended feed", "/extended", key, {}, {}, u"was not signed"_s);
         row("feed too long", "/long", key, {}, {}, u"more than it should"_s);
@@ -116,7 +126,6 @@ private Q_SLOTS:
         m_server.answer("/signed-html", LoopbackServer::bytes(m_update.signedText(page)));
         QByteArray changed = m_update.unsignedFeed("pkg" + name);
         m_server.answer("/unsigned", LoopbackServer::bytes(changed));
-        m_server.answer("/empty-signature", LoopbackServer::bytes(changed + "<!-- signature: -->"));
         const QByteArray valid = m_update.signedFeed("pkg" + name);
         m_server.answer("/changed", LoopbackServer::bytes(QByteArray(valid).replace("1.3", "1.4")));
         m_server.answer("/extended", LoopbackServer::bytes(valid + "<!-- more -->"));
