@@ -18,7 +18,8 @@ X11ActiveWindow::X11ActiveWindow(QObject* parent)
     m_root = x11::rootWindow(m_connection);
     m_property = x11::internAtom(m_connection, "_NET_ACTIVE_WINDOW");
     const std::uint32_t active = activeWindow();
-    m_last = exists(active) ? active : XCB_WINDOW_NONE;
+    if (exists(active))
+        m_last = active;
     // Qt selects the root window's property events.
     qApp->installNativeEventFilter(this);
 }
