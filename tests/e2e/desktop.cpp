@@ -11,13 +11,13 @@ namespace tarnwick::test {
 
 namespace {
 
-constexpr int patienceMs = 20000;
+constexpr int timeoutMs = 20000;
 
 QByteArray outputOf(const QString& program, const QStringList& arguments)
 {
     QProcess process;
     process.start(program, arguments);
-    if (!process.waitForFinished(patienceMs))
+    if (!process.waitForFinished(timeoutMs))
         qWarning() << program << process.errorString();
     return process.exitCode() == 0 ? process.readAllStandardOutput() : QByteArray();
 }
@@ -44,7 +44,7 @@ RunningProgram::~RunningProgram()
     if (m_process.state() != QProcess::Running)
         QTest::qFail("The program ended by itself", __FILE__, __LINE__);
     m_process.terminate();
-    m_process.waitForFinished(patienceMs);
+    m_process.waitForFinished(timeoutMs);
 }
 
 QStringList RunningProgram::printedLines()
@@ -114,7 +114,7 @@ Accessible appeared(const QString& start)
         before = std::exchange(now, accessibleNamed(start));
         return !now.name.isEmpty() && now.area == before.area;
     };
-    return QTest::qWaitFor(rests, patienceMs) ? now : Accessible();
+    return QTest::qWaitFor(rests, timeoutMs) ? now : Accessible();
 }
 
 bool openMenu()
@@ -122,14 +122,14 @@ bool openMenu()
     const auto itemIsThere = [] { return !statusItemPosition().isNull(); };
     const auto menuIsOpen = [] { return !accessibleNamed(u"Refresh all"_s).name.isEmpty(); };
     // A click on an item that has only just been placed may be lost.
-    return QTest::qWaitFor(itemIsThere, patienceMs) &&
+    return QTest::qWaitFor(itemIsThere, timeoutMs) &&
            QTest::qWaitFor(
                [&] {
                    if (!menuIsOpen())
                        click(statusItemPosition());
                    return QTest::qWaitFor(menuIsOpen, 1500);
                },
-               patienceMs);
+               timeoutMs);
 }
 
 bool openPanel(const QString& row)
@@ -154,7 +154,7 @@ bool windowIsActive(const QString& title)
             return outputOf(u"xdotool"_s, {u"getactivewindow"_s, u"getwindowname"_s}).trimmed() ==
                    title.toUtf8();
         },
-        patienceMs);
+        timeoutMs);
 }
 
 void xdotool(const QStringList& arguments)
