@@ -42,6 +42,15 @@ totals() {
         END { print passed + 0, failed + 0, skipped + 0 }' "$1"
 }
 
+# Prints what the entries that failed said, but for the functions that passed.
+failures() {
+    awk '
+        NR == FNR && /\*\*\*/ && match($0, /Test +#[0-9]+: /) {
+            id = substr($0, RSTART, RLENGTH); gsub(/[^0-9]/, "", id); failed[id + 0]
+        }
+        NR != FNR && /^[0-9]+: / && ($1 + 0) in failed && !/: PASS   :/' "$1" "$1" | head -n 200
+}
+
 run_preset() {
     local preset=$1 log=build/$1-tests.log status=0 start=$SECONDS p f s
     scripts/build.sh "$preset" || { failed=$((failed + 1)); return; }
@@ -54,7 +63,7 @@ run_preset() {
     grep -E '^ *[0-9]+/[0-9]+ Test' "$log"
     echo "Tested ($preset) in $((SECONDS - start)) s: $p passed, $f failed, $s skipped."
     ((status == 0)) && return
-    grep -E 'FAIL!|Actual|Expected|Loc:|ERROR:|runtime error|SUMMARY|Timeout' -A 3 "$log" | head -n 150
+    failures "$log"
     echo "The whole story is in $log"
 }
 
