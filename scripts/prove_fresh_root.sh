@@ -34,7 +34,7 @@ fi
 own_mirror() {
     # shellcheck disable=SC2016 # apt fills them in
     apt-get indextargets --format '$(ORIGIN) $(LABEL) $(COMPONENT) $(REPO_URI)' 'Created-By: Packages' |
-        awk '$1 == "Debian" && $2 == "Debian" && $3 == "main" { print $4; exit }'
+        awk '$1 == "Debian" && $2 == "Debian" && $3 == "main" && !found++ { print $4 }'
 }
 
 # With apt's own means, which know this machine's proxies.
@@ -77,7 +77,7 @@ inside() {
 rm -rf --one-file-system "$folder"
 mkdir -p "$folder"
 apt-get update >/dev/null 2>&1 || true
-mirror=$(own_mirror)
+mirror=$(own_mirror) || true
 [[ $mirror ]] || skip "this machine has no Debian mirror that can be reached"
 mirror_answers || skip "the mirror cannot be reached, or has no $suite: $folder/mirror.log"
 echo "Making a bare $suite ..."
