@@ -21,19 +21,6 @@ QStringList withDataFolders(QStringList paths, const QString& folder)
     return paths;
 }
 
-/// Applications bring their icons for the theme hicolor. Qt knows no theme at all on some
-/// platforms, and misses hicolor where the theme in use and its fallback are both not installed.
-void searchIconsOfApplications()
-{
-    const QString base = QStringLiteral("hicolor");
-    QIcon::setFallbackThemeName(base);
-    if (QIcon::themeName().isEmpty())
-        QIcon::setThemeName(base);
-    QIcon::setThemeSearchPaths(withDataFolders(QIcon::themeSearchPaths(), QStringLiteral("icons")));
-    QIcon::setFallbackSearchPaths(
-        withDataFolders(QIcon::fallbackSearchPaths(), QStringLiteral("pixmaps")));
-}
-
 /// Entries are not supposed to name a theme's icon with its suffix, but some do.
 QString themeName(const QString& icon)
 {
@@ -46,11 +33,20 @@ QString themeName(const QString& icon)
 
 } // namespace
 
+void searchIconsOfApplications()
+{
+    const QString base = QStringLiteral("hicolor");
+    QIcon::setFallbackThemeName(base);
+    if (QIcon::themeName().isEmpty())
+        QIcon::setThemeName(base);
+    QIcon::setThemeSearchPaths(withDataFolders(QIcon::themeSearchPaths(), QStringLiteral("icons")));
+    QIcon::setFallbackSearchPaths(
+        withDataFolders(QIcon::fallbackSearchPaths(), QStringLiteral("pixmaps")));
+}
+
 FreedesktopApplicationFolder::FreedesktopApplicationFolder(DesktopEntryPlace place)
     : m_place(place)
-{
-    searchIconsOfApplications();
-}
+{}
 
 QString FreedesktopApplicationFolder::path() const
 {

@@ -35,4 +35,9 @@ private:
     mutable QObject m_turn;
 };
 
+/// Completes where QIcon looks for the icons of applications, for the whole program. They bring
+/// their icons for the theme hicolor: Qt knows no theme at all on some platforms, and misses
+/// hicolor where the theme in use and its fallback are both not installed.
+void searchIconsOfApplications();
+
 } // namespace tarnwick

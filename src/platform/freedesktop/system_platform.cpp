@@ -44,6 +44,7 @@ Platform systemPlatform()
     platform.activeWindow = std::make_unique<X11ActiveWindow>();
     platform.paletteFollower = std::make_unique<PaletteFollower>();
     platform.terminal = std::make_unique<FreedesktopTerminalLauncher>();
+    searchIconsOfApplications();
     platform.systemApplications =
         std::make_unique<FreedesktopApplicationFolder>(DesktopEntryPlace::System);
     platform.userApplications =
