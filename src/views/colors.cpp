@@ -2,8 +2,10 @@
 #include "views/colors.h"
 
 #include <QPalette>
+#include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tarnwick {
 
@@ -20,32 +22,27 @@ QString trimmedToAlphanumerics(const QString& text)
     return QString(first, last - first);
 }
 
-/// Reads the hexadecimal digits at the start; a number past 64 bits is the largest that fits.
-quint64 leadingHexNumber(QStringView text)
+/// Reads the hexadecimal digits at the start, of which eight count.
+quint32 leadingHexNumber(const QString& text)
 {
-    if (text.startsWith(u"0x", Qt::CaseInsensitive))
-        text = text.sliced(2);
-    constexpr quint64 highestNibble = Q_UINT64_C(0xF) << 60;
-    quint64 value = 0;
-    for (const QChar c : text) {
-        bool isDigit = false;
-        const uint digit = QStringView(&c, 1).toUInt(&isDigit, 16);
-        if (!isDigit)
-            break;
-        if ((value & highestNibble) != 0)
-            return ~Q_UINT64_C(0);
-        value = (value << 4) | digit;
-    }
-    return value;
+    static const QRegularExpression number(QStringLiteral("^(?:0[xX])?([0-9A-Fa-f]{0,8})"));
+    return number.match(text).captured(1).toUInt(nullptr, 16);
 }
 
-/// Components count to 255; one that lies beyond is shown as 255.
-QColor fromComponents(quint64 red, quint64 green, quint64 blue, quint64 alpha)
+QColor fromComponents(quint32 red, quint32 green, quint32 blue, quint32 alpha = 255)
 {
-    const auto component = [](quint64 value) {
-        return static_cast<int>(std::min(value, Q_UINT64_C(255)));
-    };
-    return {component(red), component(green), component(blue), component(alpha)};
+    return QColor::fromRgba(alpha << 24 | red << 16 | green << 8 | blue);
+}
+
+double linear(double channel)
+{
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double relativeLuminance(const QColor& color)
+{
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
 }
 
 QColor shade(Appearance appearance, QRgb light, QRgb dark)
@@ -58,12 +55,12 @@ QColor shade(Appearance appearance, QRgb light, QRgb dark)
 QColor colorFromHex(const QString& text)
 {
     const QString digits = trimmedToAlphanumerics(text);
-    const quint64 v = leadingHexNumber(digits);
+    const quint32 v = leadingHexNumber(digits);
     switch (digits.size()) {
     case 3:
-        return fromComponents((v >> 8) * 17, (v >> 4 & 15) * 17, (v & 15) * 17, 255);
+        return fromComponents((v >> 8) * 17, (v >> 4 & 15) * 17, (v & 15) * 17);
     case 6:
-        return fromComponents(v >> 16, v >> 8 & 255, v & 255, 255);
+        return fromComponents(v >> 16, v >> 8 & 255, v & 255);
     case 8:
         return fromComponents(v >> 16 & 255, v >> 8 & 255, v & 255, v >> 24);
     default:
@@ -91,6 +88,12 @@ QColor separatorColor(const QPalette& palette)
     return color;
 }
 
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [darker, lighter] = std::minmax({relativeLuminance(one), relativeLuminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
 namespace colors {
 
 QColor white()
@@ -106,19 +109,19 @@ QColor green(Appearance appearance)
 
 QColor red(Appearance appearance)
 {
-    return shade(appearance, 0xd9261c, 0xff5f57);
+    return shade(appearance, 0xc2241a, 0xff8880);
 }
 QColor indigo(Appearance appearance)
 {
-    return shade(appearance, 0x5856d6, 0x8b89ff);
+    return shade(appearance, 0x4e4ccb, 0xa3a1ff);
 }
 QColor purple(Appearance appearance)
 {
-    return shade(appearance, 0x9b3fc8, 0xcb7cf2);
+    return shade(appearance, 0x8c36b5, 0xd391f6);
 }
 QColor blue(Appearance appearance)
 {
-    return shade(appearance, 0x0a66d8, 0x4da3ff);
+    return shade(appearance, 0x0b5bc4, 0x6bb3ff);
 }
 
 QColor orange(Appearance appearance)
@@ -129,11 +132,11 @@ QColor orange(Appearance appearance)
 
 QColor teal(Appearance appearance)
 {
-    return shade(appearance, 0x0a7f92, 0x55c8d8);
+    return shade(appearance, 0x096a7a, 0x55c8d8);
 }
 QColor yellow(Appearance appearance)
 {
-    return shade(appearance, 0xa07d00, 0xffd60a);
+    return shade(appearance, 0x7f6300, 0xffd60a);
 }
 
 } // namespace colors

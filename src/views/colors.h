@@ -22,8 +22,11 @@ namespace tarnwick {
 /// The thin lines between rows and sections, and around menus.
 [[nodiscard]] QColor separatorColor(const QPalette& palette);
 
-/// The named colours of the views, each in the shade that reads well on that appearance's
-/// background.
+/// How well one colour is read on the other, from 1 to 21: the contrast ratio of WCAG 2.
+[[nodiscard]] double contrast(const QColor& one, const QColor& other);
+
+/// The named colours of the views, each in a shade whose contrast to that appearance's
+/// background is 4.5 at least; less are the green and the amber of the light one.
 namespace colors {
 
 [[nodiscard]] QColor white();

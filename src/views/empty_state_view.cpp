@@ -14,8 +14,8 @@ namespace tarnwick {
 
 namespace {
 
-constexpr int widest = 300;
-constexpr int lowest = 140;
+constexpr int maxWidth = 300;
+constexpr int minHeight = 140;
 
 QString emptyStateText(const QString& settings)
 {
@@ -33,7 +33,8 @@ EmptyStateView::EmptyStateView(QWidget* parent)
     layout->setContentsMargins({});
     layout->addWidget(m_text, 0, Qt::AlignVCenter);
     layout->addStretch(1);
-    setMinimumHeight(lowest);
+    setMinimumHeight(minHeight);
+    m_text->setMaximumWidth(maxWidth);
     m_text->setFont(withSymbols(font()));
     render();
 }
@@ -45,8 +46,8 @@ QString EmptyStateView::text() const
 
 QSize EmptyStateView::sizeHint() const
 {
-    const int width = std::min(widest, m_text->sizeHint().width());
-    return {width, std::max(lowest, m_text->heightForWidth(width))};
+    const int width = std::min(maxWidth, m_text->sizeHint().width());
+    return {width, std::max(minHeight, m_text->heightForWidth(width))};
 }
 
 void EmptyStateView::changeEvent(QEvent* event)

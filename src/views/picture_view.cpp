@@ -1,30 +1,33 @@
 // SPDX-License-Identifier: MIT
-#include "views/panel/entry_image.h"
+#include "views/picture_view.h"
 
 #include "views/symbols.h"
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace tarnwick {
 
-EntryImageView::EntryImageView(EntryImage image, int side, const QColor& color, QWidget* parent)
-    : QWidget(parent)
-    , m_image(std::move(image))
-    , m_color(color)
+void PictureView::setPicture(const Picture& picture, const QColor& color)
 {
-    setFixedSize(side, side);
+    m_picture = picture;
+    m_color = color;
+    update();
 }
 
-void EntryImageView::paintEvent(QPaintEvent* /*event*/)
+void PictureView::paintEvent(QPaintEvent* /*event*/)
 {
+    QRect square({}, QSize(1, 1) * std::min(width(), height()));
+    square.moveCenter(rect().center());
     QPainter painter(this);
-    if (!m_image.icon.isNull()) {
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawPixmap(rect(), m_image.icon.pixmap(size(), devicePixelRatio()));
+    if (m_picture.icon.isNull()) {
+        painter.setPen(m_color);
+        drawSymbol(painter, square, symbolNamed(m_picture.symbol));
         return;
     }
-    painter.setPen(m_color);
-    drawSymbol(painter, rect(), symbolNamed(m_image.symbol));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(square, m_picture.icon.pixmap(square.size(), devicePixelRatio()));
 }
 
 } // namespace tarnwick

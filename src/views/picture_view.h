@@ -8,33 +8,35 @@
 
 namespace tarnwick {
 
-/// The picture of an entry: a symbol of ours by its name, or an application's icon.
-struct EntryImage
+/// A symbol of ours by its name, or else an icon; nothing where both are empty.
+struct Picture
 {
     QString symbol = {};
     QIcon icon = {};
 
-    friend bool operator==(const EntryImage& a, const EntryImage& b)
+    friend bool operator==(const Picture& a, const Picture& b)
     {
         return a.symbol == b.symbol && a.icon.cacheKey() == b.icon.cacheKey();
     }
 };
 
-/// A square of the given side filled by the picture; a symbol takes the colour. Empty where the
-/// image is.
-class EntryImageView : public QWidget
+/// Fills the largest square in its middle with a picture, stretched if it is not square.
+class PictureView : public QWidget
 {
     Q_OBJECT
 
 public:
-    EntryImageView(EntryImage image, int side, const QColor& color, QWidget* parent = nullptr);
+    using QWidget::QWidget;
+
+    /// Only a symbol takes the colour.
+    void setPicture(const Picture& picture, const QColor& color);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    const EntryImage m_image;
-    const QColor m_color;
+    Picture m_picture;
+    QColor m_color;
 };
 
 } // namespace tarnwick

@@ -4,54 +4,43 @@
 #include "model/diagnostics.h"
 #include "model/repo_view_model.h"
 #include "views/colors.h"
+#include "views/picture_view.h"
+#include "views/row_metrics.h"
 #include "views/spinner.h"
 #include "views/status_summary.h"
 #include "views/symbols.h"
 #include "views/text_line.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QMouseEvent>
+
+#include <algorithm>
 
 namespace tarnwick {
 
 namespace {
 
-constexpr int rowWidth = 340;
-constexpr int sideInset = 20;
-constexpr int endInset = 10;
 constexpr int lineSpacing = 4;
-constexpr int symbolSpacing = 6;
-constexpr int pictureSize = 16;
-constexpr int nameLineHeight = 20;
-constexpr int branchFontSize = 13;
-constexpr int summaryFontSize = 14;
+constexpr int symbolSpacing = 4;
+constexpr int logoSize = 16;
+constexpr int folderSize = 16;
+constexpr int branchSize = 13;
+constexpr int summarySize = 14;
+constexpr int logoDetail = 4;
 
-/// Sizes are in pixels of a display at scale 1.
-QFont fontWithSymbols(const QFont& interfaceFont, int size)
+PictureView* newPicture(const QString& accessibleName, QWidget* parent)
 {
-    QFont font = withSymbols(interfaceFont);
-    font.setPixelSize(size);
-    return font;
+    auto* const picture = new PictureView(parent);
+    picture->setAccessibleName(accessibleName);
+    return picture;
 }
 
-void setSymbol(QLabel& label, const QString& symbol, const QColor& color)
+/// Stretched to a square.
+Picture logoPicture(const QImage& logo)
 {
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, color);
-    label.setPalette(palette);
-    label.setText(symbol);
-}
-
-/// A symbol in a cell of the picture's width, so that the texts of all lines start at one edge.
-QLabel* newSymbolCell(const QString& accessibleName, QWidget* parent)
-{
-    auto* const label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    label->setFixedWidth(pictureSize);
-    label->setAccessibleName(accessibleName);
-    return label;
+    const QSize size = QSize(logoSize, logoSize) * logoDetail;
+    const QImage square = logo.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return {.icon = QIcon(QPixmap::fromImage(square))};
 }
 
 QWidget* newLine(QWidget* symbol, QWidget* text, QWidget* parent)
@@ -74,18 +63,18 @@ RepoStatusView::RepoStatusView(std::shared_ptr<RepoViewModel> vm, PreferencesSto
     , m_vm(std::move(vm))
     , m_onlyIcons(store, preferences::onlyIcons)
     , m_showCleanRepoStatus(store, preferences::showCleanRepoStatus)
-    , m_picture(newSymbolCell(tr("Repository"), this))
+    , m_picture(newPicture(tr("Repository"), this))
     , m_name(new TextLine(this))
-    , m_branchSymbol(newSymbolCell(tr("Branch"), this))
+    , m_branchSymbol(newPicture(tr("Branch"), this))
     , m_branch(new TextLine(this))
-    , m_cleanSymbol(newSymbolCell(tr("Clean"), this))
+    , m_cleanSymbol(newPicture(tr("Clean"), this))
     , m_clean(new TextLine(this))
     , m_summary(new TextLine(this))
     , m_spinner(new Spinner(this))
     , m_branchLine(newLine(m_branchSymbol, m_branch, this))
     , m_cleanLine(newLine(m_cleanSymbol, m_clean, this))
 {
-    setFixedWidth(rowWidth);
+    setFixedWidth(row::width);
     layOut();
     setFonts();
     render();
@@ -107,7 +96,7 @@ QString RepoStatusView::text() const
 
 QSize RepoStatusView::sizeHint() const
 {
-    return {rowWidth, layout()->heightForWidth(rowWidth)};
+    return {row::width, layout()->heightForWidth(row::width)};
 }
 
 void RepoStatusView::changeEvent(QEvent* event)
@@ -141,22 +130,17 @@ void RepoStatusView::layOut()
 {
     auto* const column = new QVBoxLayout;
     column->setSpacing(lineSpacing);
-    // As high with a logo as with the symbol, which is a letter of its font.
-    auto* const nameLine = newLine(m_picture, m_name, this);
-    nameLine->setMinimumHeight(nameLineHeight);
-    column->addWidget(nameLine);
+    column->addWidget(newLine(m_picture, m_name, this));
     column->addWidget(m_branchLine);
     column->addWidget(m_summary);
     column->addWidget(m_cleanLine);
 
-    // The spinner turns inside the trailing inset: were it to take room from the text, a long
-    // summary would break differently, and the row jump, at every refresh.
     auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(sideInset, endInset, 0, endInset);
-    row->setSpacing(0);
+    row->setContentsMargins(row::insets);
+    row->setSpacing(symbolSpacing);
     row->addLayout(column, 1);
     row->addWidget(m_spinner, 0, Qt::AlignVCenter);
-    static_assert(sideInset == 20, "the spinner is as wide as the inset");
+    // Its room is kept: a summary must not break differently, and the row jump, at every refresh.
     QSizePolicy policy = m_spinner->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_spinner->setSizePolicy(policy);
@@ -187,26 +171,25 @@ void RepoStatusView::observe()
 
 void RepoStatusView::setFonts()
 {
-    m_name->setFont(withSymbols(font()));
-    m_picture->setFont(fontWithSymbols(font(), pictureSize));
-    m_branchSymbol->setFont(fontWithSymbols(font(), branchFontSize));
-    m_branch->setFont(fontWithSymbols(font(), branchFontSize));
-    m_cleanSymbol->setFont(fontWithSymbols(font(), branchFontSize));
-    m_clean->setFont(fontWithSymbols(font(), branchFontSize));
-    m_summary->setFont(fontWithSymbols(font(), summaryFontSize));
+    // The texts of all lines start at one edge.
+    const int cellWidth = std::max(logoSize, row::sizedSide(font(), folderSize));
+    m_picture->setFixedSize(cellWidth, m_vm->logo() ? logoSize : cellWidth);
+    for (PictureView* const symbol : {m_branchSymbol, m_cleanSymbol})
+        symbol->setFixedSize(cellWidth, row::sizedSide(font(), branchSize));
+    m_name->setFont(font());
+    m_branch->setFont(row::sizedFont(font(), branchSize));
+    m_clean->setFont(row::sizedFont(font(), branchSize));
+    m_summary->setFont(row::sizedFont(withSymbols(font()), summarySize));
+    m_summary->setGlyphColumn(cellWidth + symbolSpacing);
 }
 
 void RepoStatusView::render()
 {
     const QColor color = labelColor(palette());
     m_name->setSegments({{m_vm->name(), color}});
-    if (m_vm->logo()) {
-        m_picture->setFixedSize(pictureSize, pictureSize);
-        m_picture->setScaledContents(true);
-        m_picture->setPixmap(QPixmap::fromImage(*m_vm->logo()));
-    } else {
-        setSymbol(*m_picture, symbolNamed(u"folder.fill"), color);
-    }
+    m_picture->setPicture(m_vm->logo() ? logoPicture(*m_vm->logo())
+                                       : Picture{.symbol = QStringLiteral("folder.fill")},
+                          color);
     renderBranch();
     renderStatus();
     renderSpinner();
@@ -216,7 +199,7 @@ void RepoStatusView::renderBranch()
 {
     const QColor color = m_vm->isMainBranch() ? secondaryLabelColor(palette())
                                               : colors::yellow(appearanceOf(palette()));
-    setSymbol(*m_branchSymbol, symbolNamed(u"arrow.triangle.branch"), color);
+    m_branchSymbol->setPicture({.symbol = QStringLiteral("arrow.triangle.branch")}, color);
     m_branch->setSegments({{m_vm->branchString().value_or(QStringLiteral("?")), color}});
     m_branchLine->setVisible(m_vm->isRepo());
 }
@@ -230,7 +213,7 @@ void RepoStatusView::renderStatus()
         m_summary->setSegments(statusText(*summary, style, appearance));
     } else {
         const QColor color = colors::green(appearance);
-        setSymbol(*m_cleanSymbol, symbolNamed(u"checkmark.seal.fill"), color);
+        m_cleanSymbol->setPicture({.symbol = QStringLiteral("checkmark.seal.fill")}, color);
         m_clean->setSegments({{tr("Repo is clean"), color}});
     }
     m_summary->setVisible(m_vm->isRepo() && summary);

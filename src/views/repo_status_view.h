@@ -7,10 +7,9 @@
 
 #include <memory>
 
-class QLabel;
-
 namespace tarnwick {
 
+class PictureView;
 class PreferencesStore;
 class RepoViewModel;
 class Spinner;
@@ -52,11 +51,11 @@ private:
     BoundSetting m_onlyIcons;
     BoundSetting m_showCleanRepoStatus;
 
-    QLabel* m_picture;
+    PictureView* m_picture;
     TextLine* m_name;
-    QLabel* m_branchSymbol;
+    PictureView* m_branchSymbol;
     TextLine* m_branch;
-    QLabel* m_cleanSymbol;
+    PictureView* m_cleanSymbol;
     TextLine* m_clean;
     TextLine* m_summary;
     Spinner* m_spinner;

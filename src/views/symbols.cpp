@@ -10,6 +10,8 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
+#include <QPainterPath>
+#include <QRawFont>
 #include <QStringList>
 
 #include <algorithm>
@@ -21,11 +23,17 @@ namespace {
 /// Of a glyph above the baseline, in parts of its height.
 constexpr qreal middle = 0.36;
 
+constexpr int grid = 24;
+
+QByteArray symbolFontBytes()
+{
+    return QByteArray::fromRawData(reinterpret_cast<const char*>(symbolFontData.data()),
+                                   symbolFontSize);
+}
+
 QString loadSymbolFont()
 {
-    const auto data = QByteArray::fromRawData(reinterpret_cast<const char*>(symbolFontData.data()),
-                                              symbolFontSize);
-    const int font = QFontDatabase::addApplicationFontFromData(data);
+    const int font = QFontDatabase::addApplicationFontFromData(symbolFontBytes());
     return QFontDatabase::applicationFontFamilies(font).value(0);
 }
 
@@ -101,11 +109,16 @@ QIcon symbolIcon(QStringView name)
 
 void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph)
 {
-    QFont font(symbolFontFamily());
-    font.setPixelSize(qRound(square.height()));
-    painter.setFont(font);
-    // The middle of the glyphs lies where that of capital letters does.
-    painter.drawText(QPointF(square.left(), square.center().y() + middle * square.height()), glyph);
+    // An outline is sharp at any size and lies exactly where the square is; a letter does not.
+    static const QRawFont font(symbolFontBytes(), grid, QFont::PreferNoHinting);
+    const QPainterPath outline = font.pathForGlyph(font.glyphIndexesForString(glyph).value(0));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(square.topLeft());
+    painter.scale(square.width() / grid, square.height() / grid);
+    painter.translate(0, (0.5 + middle) * grid);
+    painter.fillPath(outline, painter.pen().color());
+    painter.restore();
 }
 
 } // namespace tarnwick

@@ -2,7 +2,7 @@
 #include "views/text_line.h"
 
 #include <QEvent>
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QRegularExpression>
 
@@ -25,6 +25,16 @@ void breakIntoLines(QTextLayout& layout, qreal width)
         y += line.height() + lineGap;
     }
     layout.endLayout();
+}
+
+/// With marks that make the glyph stand on the right of the words.
+QString mirrored(QString segment)
+{
+    const QChar rightToLeftMark(u'\u200f');
+    const qsizetype gap = segment.indexOf(QChar::Nbsp);
+    if (gap > 0)
+        segment.insert(gap, rightToLeftMark);
+    return segment + rightToLeftMark;
 }
 
 QSizePolicy wrappingTextPolicy()
@@ -61,6 +71,13 @@ QString TextLine::text() const
     return text;
 }
 
+void TextLine::setGlyphColumn(int width)
+{
+    m_glyphColumn = width;
+    updateGeometry();
+    update();
+}
+
 QSize TextLine::sizeHint() const
 {
     const auto layout = layoutForWidth(QWIDGETSIZE_MAX);
@@ -94,22 +111,41 @@ void TextLine::paintEvent(QPaintEvent* /*event*/)
 
 std::unique_ptr<QTextLayout> TextLine::layoutForWidth(int width) const
 {
-    auto layout = std::make_unique<QTextLayout>(text(), font());
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout->setTextOption(option);
-
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    const bool hasMirroredColumn = isMirrored && m_glyphColumn > 0;
+    QString text;
     QList<QTextLayout::FormatRange> formats;
-    int start = 0;
     for (const TextSegment& segment : m_segments) {
         QTextCharFormat format;
         format.setForeground(segment.color);
-        formats.append({start, static_cast<int>(segment.text.size()), format});
-        start += static_cast<int>(segment.text.size());
+        const auto start = static_cast<int>(text.size());
+        text += hasMirroredColumn ? mirrored(segment.text) : segment.text;
+        formats.append({start, static_cast<int>(text.size()) - start, format});
+        const qsizetype gap = m_glyphColumn > 0 ? text.indexOf(QChar::Nbsp, start) : -1;
+        if (gap > start)
+            formats.append(wideningFormat(text, start, static_cast<int>(gap)));
     }
+
+    auto layout = std::make_unique<QTextLayout>(text, font());
+    QTextOption option(isMirrored ? Qt::AlignRight : Qt::AlignLeft);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    if (hasMirroredColumn)
+        option.setTextDirection(Qt::RightToLeft);
+    layout->setTextOption(option);
     layout->setFormats(formats);
     breakIntoLines(*layout, width);
     return layout;
+}
+
+/// Spreads the glyph at `start` and the space at `gap` to the width of the column.
+QTextLayout::FormatRange TextLine::wideningFormat(const QString& text, int start, int gap) const
+{
+    const QFontMetricsF metrics(font());
+    QTextCharFormat format;
+    format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+    format.setFontLetterSpacing(m_glyphColumn -
+                                metrics.horizontalAdvance(text.mid(start, gap + 1 - start)));
+    return {gap, 1, format};
 }
 
 } // namespace tarnwick

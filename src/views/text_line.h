@@ -33,6 +33,10 @@ public:
     void setSegments(std::vector<TextSegment> segments);
     [[nodiscard]] QString text() const;
 
+    /// For a text whose segments each start with a glyph and a space: where their words start, from
+    /// where the glyph does. Where writing goes to the left, the glyphs stand on the right of them.
+    void setGlyphColumn(int width);
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
@@ -44,8 +48,11 @@ protected:
 
 private:
     [[nodiscard]] std::unique_ptr<QTextLayout> layoutForWidth(int width) const;
+    [[nodiscard]] QTextLayout::FormatRange wideningFormat(const QString& text, int start,
+                                                          int gap) const;
 
     std::vector<TextSegment> m_segments;
+    int m_glyphColumn = 0;
 };
 
 } // namespace tarnwick

@@ -193,7 +193,7 @@ void ActionsPanelTest::entriesAreLaidOutToThePoint()
     CButtonView entry({.small = small, .title = text, .sub = text});
     entry.resize(300, entry.heightForWidth(300));
     entry.show();
-    const QRect icon = entry.findChild<EntryImageView*>()->geometry();
+    const QRect icon = entry.findChild<PictureView*>()->geometry();
     QTEST(icon.left(), "iconLeft");
     QTEST(icon.width(), "iconSide");
     const auto texts = entry.findChildren<TextLine*>();

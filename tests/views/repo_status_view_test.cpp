@@ -4,6 +4,7 @@
 #include "support/test_registry.h"
 #include "support/workbench.h"
 #include "views/colors.h"
+#include "views/empty_state_view.h"
 #include "views/repo_status_view.h"
 #include "views/spinner.h"
 #include "views/text_line.h"
@@ -27,6 +28,13 @@ QStringList shownTexts(const QWidget& view)
         texts.insert(line->mapTo(&view, QPoint()).y(), plain.simplified());
     }
     return texts.values();
+}
+
+void layOut(QWidget& widget)
+{
+    QCoreApplication::sendPostedEvents();
+    widget.resize(widget.sizeHint());
+    QCoreApplication::sendPostedEvents();
 }
 
 } // namespace
@@ -58,6 +66,10 @@ private Q_SLOTS:
                      (QStringList{u"repo"_s, u"feature/x"_s, u"1 change 1 staged"_s}));
         QCOMPARE(row->text(), u"repo, branch feature/x, 1 change, 1 staged"_s);
         QVERIFY(!texts.isEmpty());
+        QFont large;
+        large.setPixelSize(40); // or no pixel has a color to itself
+        row->setFont(large);
+        layOut(*row);
         for (const QColor& color : {QColor(0xff, 0xb3, 0), colors::teal(Appearance::Light),
                                     colors::yellow(Appearance::Light)})
             QVERIFY(showsColor(row->grab().toImage(), color));
@@ -95,6 +107,65 @@ private Q_SLOTS:
             QVERIFY(QRect(20, 10, 300, row->height() - 20).contains(area));
             QVERIFY(line->heightForWidth(line->width()) <= line->height());
         }
+    }
+
+    void everythingKeepsItsProportion_data()
+    {
+        const auto row = table<int, Qt::LayoutDirection>("points", "direction");
+        row("small", 7, Qt::LeftToRight);
+        row("large", 22, Qt::LeftToRight);
+        row("mirrored", 10, Qt::RightToLeft);
+    }
+
+    void everythingKeepsItsProportion()
+    {
+        QFETCH(int, points);
+        QFETCH(Qt::LayoutDirection, direction);
+        const TemporaryRepository repository;
+        repository.run({u"touch new"_s});
+        const auto row = shownRow(repository.dir());
+        QTRY_VERIFY(m_record->gitStatus() && m_record->branchString());
+        row->setLayoutDirection(direction);
+        QFont font;
+        font.setPointSize(points);
+        row->setFont(font); // while it is shown
+        layOut(*row);
+
+        QMap<int, QRect> lines;
+        for (const auto* line : row->findChildren<TextLine*>()) {
+            if (line->isVisible())
+                lines.insert(line->mapTo(row.get(), QPoint()).y(),
+                             QRect(line->mapTo(row.get(), QPoint()), line->size()));
+        }
+        QCOMPARE(lines.size(), 3);
+        const QRect name = lines.first();
+        const QRect summary = lines.last();
+        QVERIFY(std::abs(summary.height() - name.height() * 14 / 13.0) < 3);
+        const QRect spinner = row->findChild<Spinner*>()->geometry();
+        if (direction == Qt::LeftToRight)
+            QCOMPARE(QPoint(summary.left(), spinner.right()), QPoint(20, 319));
+        else
+            QCOMPARE(QPoint(summary.right(), spinner.left()), QPoint(319, 20));
+
+        // The words of the summary start where those of the other lines do.
+        const bool isMirrored = direction == Qt::RightToLeft;
+        const int edge = isMirrored ? summary.right() - name.right() : name.left() - summary.left();
+        const QImage picture = row->grab(summary).toImage().mirrored(isMirrored, false);
+        const auto isBlank = [&picture](int x) {
+            const QImage column = picture.copy(x, 0, 1, picture.height());
+            return areaOf(picture.pixelColor(0, 0), column).height() == picture.height();
+        };
+        QVERIFY(isBlank(edge - 1));
+    }
+
+    void emptyStateIsNoWiderThanItsText()
+    {
+        EmptyStateView view;
+        view.resize(340, view.sizeHint().height());
+        view.show();
+        const auto* const text = view.findChild<TextLine*>();
+        QVERIFY(text->width() <= 300 && view.sizeHint().width() <= 300);
+        QVERIFY(view.height() >= 140 && text->height() >= text->heightForWidth(text->width()));
     }
 
     void logoReplacesTheFolder()

@@ -30,6 +30,24 @@ private Q_SLOTS:
         QTEST(colorFromHex(QString::fromUtf8(QTest::currentDataTag())), "expected");
     }
 
+    void colorsCanBeRead_data()
+    {
+        const auto row = table<Appearance, QColor>("appearance", "background");
+        row("light", Appearance::Light, {0xff, 0xff, 0xff});
+        row("light, highlighted", Appearance::Light, {0xe6, 0xf1, 0xf8});
+        row("dark", Appearance::Dark, {0x35, 0x35, 0x35});
+        row("dark, highlighted", Appearance::Dark, {0x34, 0x3f, 0x46});
+    }
+
+    void colorsCanBeRead()
+    {
+        QFETCH(Appearance, appearance);
+        QFETCH(QColor, background);
+        for (auto* const color : {colors::red, colors::indigo, colors::purple, colors::blue,
+                                  colors::teal, colors::yellow})
+            QVERIFY(contrast(color(appearance), background) >= 4.5);
+    }
+
     void parts_data()
     {
         const auto row = table<QString, QColor, QColor>("glyph", "dark", "light");

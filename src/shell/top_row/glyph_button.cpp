@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "shell/top_row/glyph_button.h"
 
+#include "views/row_metrics.h"
 #include "views/symbols.h"
 
 namespace tarnwick {
 
 namespace {
 
-constexpr QSize buttonSize{40, 26};
+constexpr QSize minSize{40, 26};
+constexpr QSize padding{8, 8};
 constexpr int glyphSize = 14;
 
 } // namespace
@@ -15,12 +17,15 @@ constexpr int glyphSize = 14;
 GlyphButton::GlyphButton(char32_t glyph, const QString& action, QWidget* parent)
     : QPushButton(glyphText(glyph), parent)
 {
-    QFont glyphFont = withSymbols(font());
-    glyphFont.setPixelSize(glyphSize);
-    setFont(glyphFont);
-    setFixedSize(buttonSize);
     setToolTip(action);
     setAccessibleName(action);
+}
+
+void GlyphButton::setInterfaceFont(const QFont& interfaceFont)
+{
+    setFont(row::sizedFont(withSymbols(interfaceFont), glyphSize));
+    const int side = row::sizedSide(interfaceFont, glyphSize);
+    setFixedSize(minSize.expandedTo(QSize(side, side) + padding));
 }
 
 } // namespace tarnwick

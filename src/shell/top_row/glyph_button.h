@@ -12,6 +12,9 @@ class GlyphButton : public QPushButton
 
 public:
     GlyphButton(char32_t glyph, const QString& action, QWidget* parent = nullptr);
+
+    /// To be called whenever the font changes: glyph and button keep their proportion to it.
+    void setInterfaceFont(const QFont& interfaceFont);
 };
 
 } // namespace tarnwick

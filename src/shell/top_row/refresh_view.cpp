@@ -6,6 +6,7 @@
 #include "shell/top_row/glyph_button.h"
 #include "shell/updates/updater.h"
 #include "views/colors.h"
+#include "views/row_metrics.h"
 #include "views/symbols.h"
 #include "views/text_line.h"
 
@@ -17,9 +18,6 @@ namespace tarnwick {
 
 namespace {
 
-constexpr int rowWidth = 340;
-constexpr int sideInset = 20;
-constexpr int endInset = 10;
 constexpr int spacing = 8;
 constexpr int nameSize = 10;
 
@@ -34,8 +32,9 @@ RefreshView::RefreshView(RepoViewModels models,
     , m_buildNumber(bundle.requiredText(QStringLiteral("CFBundleVersion")))
     , m_name(new TextLine(this))
 {
-    setFixedWidth(rowWidth);
+    setFixedWidth(row::width);
     layOut();
+    setFonts();
     render();
 }
 
@@ -48,11 +47,13 @@ QString RefreshView::text() const
 
 QSize RefreshView::sizeHint() const
 {
-    return {rowWidth, layout()->heightForWidth(rowWidth)};
+    return {row::width, layout()->heightForWidth(row::width)};
 }
 
 void RefreshView::changeEvent(QEvent* event)
 {
+    if (event->type() == QEvent::FontChange)
+        setFonts();
     if (event->type() == QEvent::PaletteChange)
         render();
     QWidget::changeEvent(event);
@@ -60,10 +61,6 @@ void RefreshView::changeEvent(QEvent* event)
 
 void RefreshView::layOut()
 {
-    QFont nameFont = font();
-    nameFont.setPixelSize(nameSize);
-    m_name->setFont(nameFont);
-
     auto* const update = new CheckForUpdatesView(m_updaterController->updater(), this);
     auto* const refresh = new GlyphButton(glyph::refresh, tr("Refresh all repositories"), this);
     connect(refresh, &QAbstractButton::clicked, this, [this] { refreshAll(m_models); });
@@ -73,13 +70,19 @@ void RefreshView::layOut()
     connect(quit, &QAbstractButton::clicked, qApp, &QCoreApplication::quit);
 
     auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(sideInset, endInset, sideInset, endInset);
+    row->setContentsMargins(row::insets);
     row->setSpacing(spacing);
     row->addWidget(m_name, 0, Qt::AlignVCenter);
     row->addStretch(1);
-    for (QWidget* const button : {static_cast<QWidget*>(update), static_cast<QWidget*>(refresh),
-                                  static_cast<QWidget*>(settings), static_cast<QWidget*>(quit)})
+    for (GlyphButton* const button : {static_cast<GlyphButton*>(update), refresh, settings, quit})
         row->addWidget(button, 0, Qt::AlignVCenter);
+}
+
+void RefreshView::setFonts()
+{
+    m_name->setFont(row::sizedFont(font(), nameSize));
+    for (auto* const button : findChildren<GlyphButton*>())
+        button->setInterfaceFont(font());
 }
 
 void RefreshView::render()

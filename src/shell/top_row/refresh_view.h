@@ -37,6 +37,7 @@ protected:
 
 private:
     void layOut();
+    void setFonts();
     void render();
 
     const RepoViewModels m_models;

@@ -2,7 +2,7 @@
 #include "views/panel/c_button.h"
 
 #include "views/colors.h"
-#include "views/symbols.h"
+#include "views/row_metrics.h"
 #include "views/text_line.h"
 
 #include <QHBoxLayout>
@@ -36,31 +36,32 @@ CButtonView::CButtonView(const CButton& content, QWidget* parent)
 {
     setMinimumSize(smallest);
     auto* const body = new QVBoxLayout(this);
-    const int side = outerInset + bodyInset;
-    body->setContentsMargins(side, bodyInset, side, bodyInset);
+    constexpr int sideInset = outerInset + bodyInset;
+    body->setContentsMargins(sideInset, bodyInset, sideInset, bodyInset);
     body->setSpacing(0);
 
     const QColor color = content.color.value_or(labelColor(palette()));
     auto* const first = new QHBoxLayout;
-    first->setContentsMargins(content.small ? smallLineInset : 0, 0, 0, 0);
-    first->setSpacing(spacing);
-    first->addWidget(
-        new EntryImageView(content.img, content.small ? smallIconSide : iconSide, color, this), 0,
-        Qt::AlignVCenter);
-    if (content.small)
-        first->addSpacing(smallTitleInset);
-    first->addWidget(newText(content.title, color, withSymbols(font()), this), 0, Qt::AlignVCenter);
+    first->setSpacing(0);
+    // No margins: those would stay on the left where writing goes to the left.
+    first->addSpacing(content.small ? smallLineInset : 0);
+    auto* const picture = new PictureView(this);
+    const int side = content.small ? smallIconSide : iconSide;
+    picture->setFixedSize(side, side);
+    picture->setPicture(content.img, color);
+    first->addWidget(picture, 0, Qt::AlignVCenter);
+    first->addSpacing(spacing + (content.small ? smallTitleInset : 0));
+    first->addWidget(newText(content.title, color, font(), this), 0, Qt::AlignVCenter);
     first->addStretch(1);
     body->addLayout(first);
 
     if (!content.sub)
         return;
-    QFont subtitleFont = withSymbols(font());
-    subtitleFont.setPixelSize(subtitleSize);
     auto* const second = new QHBoxLayout;
     second->addSpacing(iconSide + spacing);
     second->addWidget(newText(content.sub->isEmpty() ? QStringLiteral(" ") : *content.sub,
-                              secondaryLabelColor(palette()), subtitleFont, this));
+                              secondaryLabelColor(palette()), row::sizedFont(font(), subtitleSize),
+                              this));
     second->addStretch(1);
     body->addLayout(second);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "views/panel/entry_image.h"
+#include "views/picture_view.h"
 
 #include <QColor>
 #include <QString>
@@ -16,7 +16,7 @@ struct CButton
 {
     /// Reserved: entries look the same with the pointer over them.
     bool isHovered = false;
-    EntryImage img = {};
+    Picture img = {};
     /// The compact variant: a smaller icon, further in.
     bool small = false;
     /// Shown verbatim.
