@@ -27,14 +27,18 @@ void breakIntoLines(QTextLayout& layout, qreal width)
     layout.endLayout();
 }
 
-/// With marks that make the glyph stand on the right of the words.
-QString mirrored(QString segment)
+/// In a text that runs to the left: the words still run to the right, but the glyph stands on the
+/// right of them.
+QString mirrored(const QString& segment)
 {
     const QChar rightToLeftMark(u'\u200f');
-    const qsizetype gap = segment.indexOf(QChar::Nbsp);
-    if (gap > 0)
-        segment.insert(gap, rightToLeftMark);
-    return segment + rightToLeftMark;
+    const QChar isolate(u'\u2066');
+    const QChar endOfIsolate(u'\u2069');
+    const qsizetype words = segment.indexOf(QChar::Nbsp) + 1;
+    const qsizetype spaces = segment.size() - segment.trimmed().size();
+    return segment.first(words) + rightToLeftMark + isolate +
+           segment.sliced(words).chopped(spaces) + endOfIsolate + rightToLeftMark +
+           segment.last(spaces);
 }
 
 QSizePolicy wrappingTextPolicy()
@@ -121,13 +125,13 @@ std::unique_ptr<QTextLayout> TextLine::layoutForWidth(int width) const
         const auto start = static_cast<int>(text.size());
         text += hasMirroredColumn ? mirrored(segment.text) : segment.text;
         formats.append({start, static_cast<int>(text.size()) - start, format});
-        const qsizetype gap = m_glyphColumn > 0 ? text.indexOf(QChar::Nbsp, start) : -1;
-        if (gap > start)
-            formats.append(wideningFormat(text, start, static_cast<int>(gap)));
+        if (m_glyphColumn > 0)
+            formats += wideningFormats(text, start);
     }
 
     auto layout = std::make_unique<QTextLayout>(text, font());
-    QTextOption option(isMirrored ? Qt::AlignRight : Qt::AlignLeft);
+    QTextOption option; // the constructor that takes an alignment sets a direction as well
+    option.setAlignment(isMirrored ? Qt::AlignRight : Qt::AlignLeft);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     if (hasMirroredColumn)
         option.setTextDirection(Qt::RightToLeft);
@@ -137,15 +141,19 @@ std::unique_ptr<QTextLayout> TextLine::layoutForWidth(int width) const
     return layout;
 }
 
-/// Spreads the glyph at `start` and the space at `gap` to the width of the column.
-QTextLayout::FormatRange TextLine::wideningFormat(const QString& text, int start, int gap) const
+/// Spreads the glyph at `start` and its space to the width of the column, and the segments apart by
+/// as much, so that each glyph stays with its words.
+QList<QTextLayout::FormatRange> TextLine::wideningFormats(const QString& text, int start) const
 {
-    const QFontMetricsF metrics(font());
+    const auto gap = static_cast<int>(text.indexOf(QChar::Nbsp, start));
+    if (gap < 0)
+        return {};
+    const qreal width =
+        QFontMetricsF(font()).horizontalAdvance(text.sliced(start, gap + 1 - start));
     QTextCharFormat format;
     format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
-    format.setFontLetterSpacing(m_glyphColumn -
-                                metrics.horizontalAdvance(text.mid(start, gap + 1 - start)));
-    return {gap, 1, format};
+    format.setFontLetterSpacing(m_glyphColumn - width);
+    return {{gap, 1, format}, {static_cast<int>(text.size()) - 1, 1, format}};
 }
 
 } // namespace tarnwick

@@ -48,8 +48,8 @@ protected:
 
 private:
     [[nodiscard]] std::unique_ptr<QTextLayout> layoutForWidth(int width) const;
-    [[nodiscard]] QTextLayout::FormatRange wideningFormat(const QString& text, int start,
-                                                          int gap) const;
+    [[nodiscard]] QList<QTextLayout::FormatRange> wideningFormats(const QString& text,
+                                                                  int start) const;
 
     std::vector<TextSegment> m_segments;
     int m_glyphColumn = 0;
