@@ -3,7 +3,8 @@
 
 #include "model/diagnostics.h"
 #include "platform/tray_host.h"
-#include "shell/status_glyph.h"
+#include "views/colors.h"
+#include "views/symbols.h"
 
 #include <QCoreApplication>
 #include <QCursor>
@@ -16,6 +17,18 @@
 namespace tarnwick {
 
 using namespace std::chrono_literals;
+
+namespace {
+
+/// Light or dark, whichever stands out more against the panel.
+QColor inkOn(const QColor& panel)
+{
+    constexpr QRgb light = 0xfff5f5f5;
+    constexpr QRgb dark = 0xff202020;
+    return contrast(panel, light) >= contrast(panel, dark) ? light : dark;
+}
+
+} // namespace
 
 StatusItem::StatusItem(TrayHost& host, QObject* parent)
     : QObject(parent)
@@ -82,12 +95,11 @@ void StatusItem::matchPanel()
     if (!panel && m_hasSeenPanel)
         return; // it is hidden
     m_hasSeenPanel = panel.has_value();
-    const QColor ink =
-        statusGlyphColor(panel.value_or(QGuiApplication::palette().window().color()));
+    const QColor ink = inkOn(panel.value_or(QGuiApplication::palette().window().color()));
     if (ink == m_ink)
         return;
     m_ink = ink;
-    m_icon->setIcon(statusGlyphIcon(ink));
+    m_icon->setIcon(symbolIcon(glyphText(glyph::statusItem), ink));
 }
 
 QRect StatusItem::anchor() const

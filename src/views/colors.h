@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "views/appearance.h"
+#include "platform/appearance.h"
 
 #include <QColor>
 #include <QString>

@@ -15,7 +15,7 @@ class EmptyStateView : public QWidget
 public:
     explicit EmptyStateView(QWidget* parent = nullptr);
 
-    /// The same for the ear, with the name of the button in place of its glyph.
+    /// The same for assistive technology, with the name of the button in place of its glyph.
     [[nodiscard]] QString text() const;
 
     [[nodiscard]] QSize sizeHint() const override;

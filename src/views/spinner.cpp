@@ -5,12 +5,16 @@
 
 #include <QPainter>
 
+#include <chrono>
+
 namespace tarnwick {
+
+using namespace std::chrono_literals;
 
 namespace {
 
 constexpr int spokes = 8;
-constexpr int stepMs = 90;
+constexpr auto interval = 90ms;
 constexpr qreal diameter = 12;
 constexpr QSize frame(20, 16);
 
@@ -45,7 +49,7 @@ void Spinner::paintEvent(QPaintEvent* /*event*/)
         pen.setColor(color);
         painter.setPen(pen);
         painter.save();
-        painter.rotate(360.0 / spokes * (m_step - age));
+        painter.rotate(360.0 / spokes * (m_phase - age));
         painter.drawLine(QPointF(0, -diameter * 0.24), QPointF(0, -diameter * 0.43));
         painter.restore();
     }
@@ -53,12 +57,12 @@ void Spinner::paintEvent(QPaintEvent* /*event*/)
 
 void Spinner::showEvent(QShowEvent* /*event*/)
 {
-    m_timer.start(stepMs, this);
+    m_timer.start(interval.count(), this);
 }
 
 void Spinner::timerEvent(QTimerEvent* /*event*/)
 {
-    m_step = (m_step + 1) % spokes;
+    m_phase = (m_phase + 1) % spokes;
     update();
 }
 

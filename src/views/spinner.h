@@ -25,7 +25,7 @@ protected:
 
 private:
     QBasicTimer m_timer;
-    int m_step = 0;
+    int m_phase = 0;
 };
 
 } // namespace tarnwick

@@ -8,9 +8,9 @@
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPalette>
 #include <QPixmap>
-#include <QPainterPath>
 #include <QRawFont>
 #include <QStringList>
 
@@ -37,18 +37,19 @@ QString loadSymbolFont()
     return QFontDatabase::applicationFontFamilies(font).value(0);
 }
 
-class SymbolIconEngine : public QIconEngine
+class SymbolIcon : public QIconEngine
 {
 public:
-    explicit SymbolIconEngine(QString glyph)
+    SymbolIcon(QString glyph, const QColor& color)
         : m_glyph(std::move(glyph))
+        , m_color(color)
     {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
     {
         QRect square(QPoint(), QSize(1, 1).scaled(rect.size(), Qt::KeepAspectRatio));
         square.moveCenter(rect.center());
-        painter->setPen(labelColor(QGuiApplication::palette()));
+        painter->setPen(m_color.isValid() ? m_color : labelColor(QGuiApplication::palette()));
         drawSymbol(*painter, square, m_glyph);
     }
 
@@ -61,10 +62,17 @@ public:
         return pixmap;
     }
 
-    QIconEngine* clone() const override { return new SymbolIconEngine(*this); }
+    /// What a status notifier host is sent.
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
+    {
+        return {{16, 16}, {22, 22}, {24, 24}, {32, 32}, {44, 44}, {48, 48}, {64, 64}};
+    }
+
+    QIconEngine* clone() const override { return new SymbolIcon(*this); }
 
 private:
     const QString m_glyph;
+    const QColor m_color;
 };
 
 } // namespace
@@ -102,9 +110,9 @@ QString symbolNamed(QStringView name)
     return symbol == namedSymbols.end() ? QString() : glyphText(symbol->codePoint);
 }
 
-QIcon symbolIcon(QStringView name)
+QIcon symbolIcon(const QString& glyph, const QColor& color)
 {
-    return QIcon(new SymbolIconEngine(symbolNamed(name)));
+    return QIcon(new SymbolIcon(glyph, color));
 }
 
 void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph)

@@ -3,6 +3,7 @@
 
 #include "symbol_table.h"
 
+#include <QColor>
 #include <QFont>
 #include <QIcon>
 #include <QString>
@@ -27,9 +28,9 @@ namespace tarnwick {
 /// The named symbol as text; empty for the empty or an unknown name.
 [[nodiscard]] QString symbolNamed(QStringView name);
 
-/// The named symbol as an icon of any size, in the label colour of the application's palette at the
-/// time of painting.
-[[nodiscard]] QIcon symbolIcon(QStringView name);
+/// The symbol as an icon of any size; without a colour in that of labels in the application's
+/// palette at the time of painting.
+[[nodiscard]] QIcon symbolIcon(const QString& glyph, const QColor& color = {});
 
 /// Fills the square with the glyph, in the painter's pen.
 void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph);

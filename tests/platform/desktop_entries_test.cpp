@@ -104,6 +104,7 @@ private Q_SLOTS:
                 "Name=X\nIcon=" +
                     QByteArray(QTest::currentDataTag()).replace("%1", path({}).toUtf8()));
 
+        searchIconsOfApplications();
         const QIcon shown =
             FreedesktopApplicationFolder(DesktopEntryPlace::System).icon(u"X.app"_s);
         QTEST(shown.isNull() ? QColor() : shown.pixmap(16).toImage().pixelColor(8, 8), "color");

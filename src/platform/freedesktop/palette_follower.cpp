@@ -1,26 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/palette_follower.h"
 
+#include "platform/appearance.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QPalette>
 #include <QStyle>
+#include <QToolTip>
 
 namespace tarnwick {
-
-namespace {
-
-bool isDark(const QPalette& palette)
-{
-    return palette.color(QPalette::WindowText).lightnessF() >
-           palette.color(QPalette::Window).lightnessF();
-}
-
-} // namespace
 
 PaletteFollower::PaletteFollower()
 {
     create();
+    qApp->installEventFilter(this);
+    colorToolTips();
 }
 
 bool PaletteFollower::event(QEvent* event)
@@ -34,8 +29,24 @@ bool PaletteFollower::event(QEvent* event)
 void PaletteFollower::follow()
 {
     const QPalette current = QApplication::style()->standardPalette();
-    if (isDark(current) != isDark(QApplication::palette()))
+    if (appearanceOf(current) != appearanceOf(QApplication::palette()))
         QApplication::setPalette(current);
+}
+
+bool PaletteFollower::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange)
+        colorToolTips();
+    return false;
+}
+
+void PaletteFollower::colorToolTips()
+{
+    const QPalette palette = QApplication::palette();
+    QPalette tips = QToolTip::palette();
+    tips.setColor(QPalette::ToolTipBase, palette.color(QPalette::Window));
+    tips.setColor(QPalette::ToolTipText, palette.color(QPalette::WindowText));
+    QToolTip::setPalette(tips);
 }
 
 } // namespace tarnwick

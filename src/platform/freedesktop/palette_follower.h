@@ -5,7 +5,8 @@
 
 namespace tarnwick {
 
-/// Keeps the application's palette with the desktop's when that goes from light to dark or back.
+/// Keeps the application's palette with the desktop's when that goes from light to dark or back,
+/// and that of tooltips with it, which Qt leaves light.
 ///
 /// Qt 6.4 announces such a change on GTK desktops, but goes on using the palette that it made at
 /// the start; the style knows the new one. It announces it to windows only, so this is a window
@@ -19,9 +20,11 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     static void follow();
+    static void colorToolTips();
 };
 
 } // namespace tarnwick

@@ -85,7 +85,7 @@ SettingsView::SettingsView(RepoManager& mgr, PreferencesStore& store, SettingsHo
     column->addWidget(newHeader(bundle.requiredText(QStringLiteral("CFBundleVersion")), this));
     column->addSpacing(spacingBelowHeader - headerOverflow);
 
-    const QIcon icon = symbolIcon(u"tray.and.arrow.down.fill");
+    const QIcon icon = symbolIcon(symbolNamed(u"tray.and.arrow.down.fill"));
     auto* const tabs = new QTabWidget(this);
     tabs->addTab(new GeneralOptionsView(store, host, tabs), icon, tr("Settings"));
     tabs->addTab(new RepositoriesView(mgr, host, tabs), icon, tr("Repositories"));

@@ -15,7 +15,7 @@ namespace {
 
 using Kind = PanelItem::Kind;
 
-constexpr qsizetype mostChangedFiles = 8;
+constexpr qsizetype maxChangedFiles = 8;
 
 class PanelItems
 {
@@ -79,13 +79,13 @@ public:
         if (lines.isEmpty())
             return;
         addDivider();
-        for (const QString& line : lines.first(std::min(lines.size(), mostChangedFiles))) {
+        for (const QString& line : lines.first(std::min(lines.size(), maxChangedFiles))) {
             const FileLineEntry entry = fileLineEntry(line, appearanceOf(m_palette));
             addSmall(Kind::ChangedFile, entry.symbol, entry.title, m_vm.dir() + u'/' + entry.path);
             m_items.back().button.color = entry.color;
         }
-        if (lines.size() > mostChangedFiles) {
-            add(Kind::Overflow, {}, tr("... %1 more").arg(lines.size() - mostChangedFiles),
+        if (lines.size() > maxChangedFiles) {
+            add(Kind::Overflow, {}, tr("... %1 more").arg(lines.size() - maxChangedFiles),
                 m_vm.dir());
             m_items.back().button.color = secondaryLabelColor(m_palette);
         }

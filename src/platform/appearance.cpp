@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "views/appearance.h"
+#include "platform/appearance.h"
 
 #include <QPalette>
 

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "model/bundle_info.h"
+#include "shell/top_row/refresh_view.h"
+#include "shell/updates/updater.h"
+#include "support/stops_process.h"
+#include "support/temporary_repository.h"
+#include "support/test_registry.h"
+#include "support/workbench.h"
+#include "views/text_line.h"
+
+#include <QPushButton>
+#include <QSignalSpy>
+
+using namespace tarnwick::test;
+
+class TopRowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void buttonsDoWhatTheirNamesSay()
+    {
+        const TemporaryRepository repository;
+        const auto record = m_bench.record(repository.dir());
+        QTRY_VERIFY(record->gitStatus() && !record->isLoading());
+        RefreshView row({record}, stoppedUpdater(), bundle(u"7"_s));
+        row.show();
+        QCOMPARE(row.text(), u"Tarnwick 7"_s);
+        const auto buttons = row.findChildren<QPushButton*>();
+        QMap<int, QString> names;
+        for (const QPushButton* const button : buttons)
+            names.insert(button->x(), button->accessibleName());
+        QCOMPARE(names.values(), (QStringList{u"Check for updates"_s, u"Refresh all repositories"_s,
+                                              u"Settings"_s, u"Quit Tarnwick"_s}));
+
+        QSignalSpy loading(record.get(), &RepoViewModel::isLoadingChanged);
+        buttons[1]->click();
+        QTRY_COMPARE(loading.size(), 2);
+        QSignalSpy settings(&row, &RefreshView::settingsRequested);
+        buttons[2]->click();
+        QCOMPARE(settings.size(), 1);
+        QVERIFY(!buttons[0]->isEnabled());
+        m_updater->start();
+        QVERIFY(buttons[0]->isEnabled());
+    }
+
+    void widthNeverChanges_data()
+    {
+        const auto row = table<QString, int>("build", "points");
+        row("long number", QString(60, u'1'), 10);
+        row("large font", u"12"_s, 22);
+    }
+
+    void widthNeverChanges()
+    {
+        QFETCH(QString, build);
+        QFETCH(int, points);
+        RefreshView row({}, stoppedUpdater(), bundle(build));
+        row.show();
+        QFont font;
+        font.setPointSize(points);
+        row.setFont(font);
+        QCoreApplication::sendPostedEvents();
+        row.resize(row.sizeHint());
+        QCOMPARE(row.width(), 340);
+        for (const auto* const child : row.findChildren<QWidget*>())
+            QVERIFY(row.rect().adjusted(20, 10, -20, -10).contains(child->geometry()));
+        const auto* const name = row.findChild<TextLine*>();
+        QVERIFY(name->heightForWidth(name->width()) <= name->height());
+    }
+
+    void buildNumberIsNeeded()
+    {
+        QVERIFY(stopsProcess([this] { RefreshView({}, stoppedUpdater(), BundleInfo({})); }));
+    }
+
+private:
+    static BundleInfo bundle(const QString& build)
+    {
+        return BundleInfo({{u"CFBundleVersion"_s, build}});
+    }
+    [[nodiscard]] std::unique_ptr<StandardUpdaterController> stoppedUpdater()
+    {
+        auto controller = std::make_unique<StandardUpdaterController>(
+            UpdateSettings{QUrl(u"https://localhost/appcast.xml"_s), "key", u"7"_s, {}}, false);
+        m_updater = &controller->updater();
+        return controller;
+    }
+
+    Workbench m_bench;
+    Updater* m_updater = nullptr;
+};
+
+TARNWICK_TEST(TopRowTest)
+
+#include "top_row_test.moc"
