@@ -21,7 +21,7 @@ using namespace std::chrono_literals;
 namespace {
 
 /// Light or dark, whichever stands out more against the panel.
-QColor inkOn(const QColor& panel)
+QColor colorOn(const QColor& panel)
 {
     constexpr QRgb light = 0xfff5f5f5;
     constexpr QRgb dark = 0xff202020;
@@ -36,15 +36,15 @@ StatusItem::StatusItem(TrayHost& host, QObject* parent)
 {
     fillContextMenu();
     // A panel takes a moment to show the item, or to repaint itself after a change of theme.
-    m_panelSettled.setSingleShot(true);
-    m_panelSettled.setInterval(500ms);
-    connect(&m_panelSettled, &QTimer::timeout, this, &StatusItem::matchPanel);
-    connect(&m_host, &TrayHost::appeared, this, &StatusItem::place);
-    connect(&m_host, &TrayHost::panelsMoved, &m_panelSettled, qOverload<>(&QTimer::start));
+    m_panelTimer.setSingleShot(true);
+    m_panelTimer.setInterval(500ms);
+    connect(&m_panelTimer, &QTimer::timeout, this, &StatusItem::updateColor);
+    connect(&m_host, &TrayHost::appeared, this, &StatusItem::showIcon);
+    connect(&m_host, &TrayHost::panelsMoved, &m_panelTimer, qOverload<>(&QTimer::start));
     qApp->installEventFilter(this);
 
     if (m_host.available()) {
-        place();
+        showIcon();
         return;
     }
     QTimer::singleShot(5s, this, [this] {
@@ -66,7 +66,7 @@ void StatusItem::fillContextMenu()
             &QCoreApplication::quit);
 }
 
-void StatusItem::place()
+void StatusItem::showIcon()
 {
     if (!m_icon) {
         m_icon = std::make_unique<QSystemTrayIcon>();
@@ -77,16 +77,16 @@ void StatusItem::place()
                     if (reason == QSystemTrayIcon::Context)
                         return;
                     m_anchor = anchor();
-                    matchPanel(); // nothing announces a panel that was given another colour
+                    updateColor(); // nothing announces a panel that was given another colour
                     Q_EMIT triggered(m_anchor);
                 });
-        matchPanel();
+        updateColor();
         m_icon->show();
     }
-    m_panelSettled.start();
+    m_panelTimer.start();
 }
 
-void StatusItem::matchPanel()
+void StatusItem::updateColor()
 {
     if (!m_icon)
         return;
@@ -95,11 +95,11 @@ void StatusItem::matchPanel()
     if (!panel && m_hasSeenPanel)
         return; // it is hidden
     m_hasSeenPanel = panel.has_value();
-    const QColor ink = inkOn(panel.value_or(QGuiApplication::palette().window().color()));
-    if (ink == m_ink)
+    const QColor color = colorOn(panel.value_or(QGuiApplication::palette().window().color()));
+    if (color == m_color)
         return;
-    m_ink = ink;
-    m_icon->setIcon(symbolIcon(glyphText(glyph::statusItem), ink));
+    m_color = color;
+    m_icon->setIcon(symbolIcon(glyphText(glyph::statusItem), color));
 }
 
 QRect StatusItem::anchor() const
@@ -111,7 +111,7 @@ QRect StatusItem::anchor() const
 bool StatusItem::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange)
-        m_panelSettled.start();
+        m_panelTimer.start();
     return QObject::eventFilter(watched, event);
 }
 

@@ -36,18 +36,18 @@ Q_SIGNALS:
 
 private:
     void fillContextMenu();
-    void place();
-    void matchPanel();
+    void showIcon();
+    void updateColor();
     QRect anchor() const;
 
     TrayHost& m_host;
     QMenu m_contextMenu;
     std::unique_ptr<QSystemTrayIcon> m_icon;
-    QTimer m_panelSettled;
+    QTimer m_panelTimer;
     /// Of the last click.
     QRect m_anchor;
     bool m_hasSeenPanel = false;
-    QColor m_ink;
+    QColor m_color;
 };
 
 } // namespace tarnwick

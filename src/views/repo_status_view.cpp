@@ -28,7 +28,7 @@ constexpr int branchSize = 13;
 constexpr int summarySize = 14;
 constexpr int logoDetail = 4;
 
-PictureView* newPicture(const QString& accessibleName, QWidget* parent)
+PictureView* makePicture(const QString& accessibleName, QWidget* parent)
 {
     auto* const picture = new PictureView(parent);
     picture->setAccessibleName(accessibleName);
@@ -43,7 +43,7 @@ Picture logoPicture(const QImage& logo)
     return {.icon = QIcon(QPixmap::fromImage(square))};
 }
 
-QWidget* newLine(QWidget* symbol, QWidget* text, QWidget* parent)
+QWidget* makeLine(QWidget* symbol, QWidget* text, QWidget* parent)
 {
     auto* const line = new QWidget(parent);
     auto* const layout = new QHBoxLayout(line);
@@ -63,16 +63,16 @@ RepoStatusView::RepoStatusView(std::shared_ptr<RepoViewModel> vm, PreferencesSto
     , m_vm(std::move(vm))
     , m_onlyIcons(store, preferences::onlyIcons)
     , m_showCleanRepoStatus(store, preferences::showCleanRepoStatus)
-    , m_picture(newPicture(tr("Repository"), this))
+    , m_picture(makePicture(tr("Repository"), this))
     , m_name(new TextLine(this))
-    , m_branchSymbol(newPicture(tr("Branch"), this))
+    , m_branchSymbol(makePicture(tr("Branch"), this))
     , m_branch(new TextLine(this))
-    , m_cleanSymbol(newPicture(tr("Clean"), this))
+    , m_cleanSymbol(makePicture(tr("Clean"), this))
     , m_clean(new TextLine(this))
     , m_summary(new TextLine(this))
     , m_spinner(new Spinner(this))
-    , m_branchLine(newLine(m_branchSymbol, m_branch, this))
-    , m_cleanLine(newLine(m_cleanSymbol, m_clean, this))
+    , m_branchLine(makeLine(m_branchSymbol, m_branch, this))
+    , m_cleanLine(makeLine(m_cleanSymbol, m_clean, this))
 {
     setFixedWidth(row::width);
     layOut();
@@ -83,15 +83,15 @@ RepoStatusView::RepoStatusView(std::shared_ptr<RepoViewModel> vm, PreferencesSto
 
 QString RepoStatusView::text() const
 {
-    QStringList said{m_vm->name()};
+    QStringList parts{m_vm->name()};
     if (m_vm->isRepo()) {
-        said += tr("branch %1").arg(m_vm->branchString().value_or(QStringLiteral("?")));
+        parts += tr("branch %1").arg(m_vm->branchString().value_or(QStringLiteral("?")));
         if (m_vm->statusString())
-            said += QString(*m_vm->statusString()).replace(QChar::Nbsp, u' ');
+            parts += QString(*m_vm->statusString()).replace(QChar::Nbsp, u' ');
         else if (m_showCleanRepoStatus.value())
-            said += tr("Repo is clean");
+            parts += tr("Repo is clean");
     }
-    return said.join(QStringLiteral(", "));
+    return parts.join(QStringLiteral(", "));
 }
 
 QSize RepoStatusView::sizeHint() const
@@ -130,16 +130,16 @@ void RepoStatusView::layOut()
 {
     auto* const column = new QVBoxLayout;
     column->setSpacing(lineSpacing);
-    column->addWidget(newLine(m_picture, m_name, this));
+    column->addWidget(makeLine(m_picture, m_name, this));
     column->addWidget(m_branchLine);
     column->addWidget(m_summary);
     column->addWidget(m_cleanLine);
 
-    auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(row::insets);
-    row->setSpacing(symbolSpacing);
-    row->addLayout(column, 1);
-    row->addWidget(m_spinner, 0, Qt::AlignVCenter);
+    auto* const line = new QHBoxLayout(this);
+    line->setContentsMargins(row::insets);
+    line->setSpacing(symbolSpacing);
+    line->addLayout(column, 1);
+    line->addWidget(m_spinner, 0, Qt::AlignVCenter);
     // Its room is kept: a summary must not break differently, and the row jump, at every refresh.
     QSizePolicy policy = m_spinner->sizePolicy();
     policy.setRetainSizeWhenHidden(true);

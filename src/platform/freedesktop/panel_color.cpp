@@ -20,7 +20,7 @@ bool screenCanBeRead()
            qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-QImage picture(const QRect& area)
+QImage grab(const QRect& area)
 {
     QScreen* screen = QGuiApplication::screenAt(area.center());
     if (!screen)
@@ -57,7 +57,7 @@ bool isGnome()
 std::optional<QColor> panelColor(const QRect& area)
 {
     if (screenCanBeRead() && !area.isEmpty())
-        return median(picture(area));
+        return median(grab(area));
     if (isGnome())
         return Qt::black; // its bar is dark whatever the theme
     return std::nullopt;

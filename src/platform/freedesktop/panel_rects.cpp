@@ -10,7 +10,8 @@ namespace tarnwick {
 
 namespace {
 
-constexpr int sliver = 8;
+/// Of a panel; one that hides itself leaves a thin strip.
+constexpr int minThickness = 8;
 
 /// Of a monitor; a dock that is thicker is transparent for the most part.
 constexpr int maxThicknessDivisor = 3;
@@ -49,7 +50,7 @@ QList<QRect> panelRects(const QList<DockWindow>& docks, const QList<Monitor>& mo
         for (const DockWindow& dock : docks)
             panels += inLogicalPixels(visiblePart(dock), monitor);
         panels.removeIf([&monitor](const QRect& panel) {
-            return thickness(panel) < sliver ||
+            return thickness(panel) < minThickness ||
                    thickness(panel) > thickness(monitor.geometry) / maxThicknessDivisor;
         });
         if (panels.isEmpty()) {

@@ -19,7 +19,7 @@ struct Monitor
 
 /// Where panels are to be seen, in Qt's logical coordinates: monitor by monitor, the upper ones
 /// first. Panels that are no window of their own are found as what a monitor keeps from windows;
-/// one that has hidden itself but for a sliver is left out.
+/// one that has hidden itself but for a thin strip is left out.
 [[nodiscard]] QList<QRect> panelRects(const QList<DockWindow>& docks,
                                       const QList<Monitor>& monitors);
 

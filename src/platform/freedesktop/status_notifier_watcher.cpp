@@ -25,14 +25,15 @@ StatusNotifierWatcher::StatusNotifierWatcher(QObject* parent)
         m_state = State::NoWatcher; // a call over it would never be answered
         return;
     }
-    connect(&m_owner, &QDBusServiceWatcher::serviceOwnerChanged, this, &StatusNotifierWatcher::ask);
+    connect(&m_owner, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            &StatusNotifierWatcher::query);
     for (const QString& change : {QStringLiteral("StatusNotifierHostRegistered"),
                                   QStringLiteral("StatusNotifierHostUnregistered")})
-        bus.connect(service, path, service, change, this, SLOT(ask()));
-    ask();
+        bus.connect(service, path, service, change, this, SLOT(query()));
+    query();
 }
 
-void StatusNotifierWatcher::ask()
+void StatusNotifierWatcher::query()
 {
     QDBusMessage question = QDBusMessage::createMethodCall(
         service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));

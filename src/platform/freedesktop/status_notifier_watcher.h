@@ -23,7 +23,7 @@ Q_SIGNALS:
     void stateChanged();
 
 private Q_SLOTS:
-    void ask();
+    void query();
 
 private:
     void setState(State state);

@@ -16,10 +16,10 @@ using namespace std::chrono_literals;
 FreedesktopTrayHost::FreedesktopTrayHost(QObject* parent)
     : TrayHost(parent)
 {
-    m_trayAlone.setSingleShot(true);
-    connect(&m_trayAlone, &QTimer::timeout, this, [this] {
+    m_trayTimer.setSingleShot(true);
+    connect(&m_trayTimer, &QTimer::timeout, this, [this] {
         if (m_tray.isPresent())
-            settle();
+            acceptHost();
     });
     connect(&m_notifier, &StatusNotifierWatcher::stateChanged, this,
             &FreedesktopTrayHost::reevaluate);
@@ -34,23 +34,23 @@ void FreedesktopTrayHost::reevaluate()
     case StatusNotifierWatcher::State::Unknown:
         return; // the answer is on its way
     case StatusNotifierWatcher::State::HostRegistered:
-        return settle();
+        return acceptHost();
     case StatusNotifierWatcher::State::NoHost: // at log-in the panel may be seconds behind
-        return waitForHostBeside(4s);
+        return acceptTrayAfter(4s);
     case StatusNotifierWatcher::State::NoWatcher:
-        return waitForHostBeside(1s);
+        return acceptTrayAfter(1s);
     }
 }
 
-void FreedesktopTrayHost::waitForHostBeside(std::chrono::milliseconds timeout)
+void FreedesktopTrayHost::acceptTrayAfter(std::chrono::milliseconds timeout)
 {
     if (m_tray.isPresent())
-        m_trayAlone.start(timeout);
+        m_trayTimer.start(timeout);
 }
 
-void FreedesktopTrayHost::settle()
+void FreedesktopTrayHost::acceptHost()
 {
-    m_trayAlone.stop();
+    m_trayTimer.stop();
     m_available = true;
     Q_EMIT appeared();
 }

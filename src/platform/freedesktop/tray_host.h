@@ -30,13 +30,13 @@ public:
 
 private:
     void reevaluate();
-    void waitForHostBeside(std::chrono::milliseconds timeout);
-    void settle();
+    void acceptTrayAfter(std::chrono::milliseconds timeout);
+    void acceptHost();
 
     StatusNotifierWatcher m_notifier;
     X11Tray m_tray;
     DockWindows m_docks;
-    QTimer m_trayAlone;
+    QTimer m_trayTimer;
     bool m_available = false;
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/window/path_field.h"
 
-#include "views/handed_press.h"
+#include "views/forwarded_press.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -37,7 +37,7 @@ bool PathField::eventFilter(QObject* watched, QEvent* event)
     // Qt swallows the press that closes the popup; forward it to the widget under the pointer.
     popup->hide();
     if (QWidget* const target = QApplication::widgetAt(press.globalPosition().toPoint()))
-        new HandedPress(*target, press); // owned by the target
+        new ForwardedPress(*target, press); // owned by the target
     return true;
 }
 

@@ -5,7 +5,7 @@
 #include "shell/menu/menu_keys.h"
 #include "shell/menu/row_column.h"
 #include "shell/menu/status_menu.h"
-#include "views/handed_press.h"
+#include "views/forwarded_press.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -181,7 +181,7 @@ bool MenuInput::press(const QWindow& window, QMouseEvent& event)
     if (!isElsewhere)
         return false;
     if (QWidget* const target = menu->childAt(menu->mapFromGlobal(global)))
-        new HandedPress(*target, event); // owned by the target
+        new ForwardedPress(*target, event); // owned by the target
     event.accept();
     return true;
 }

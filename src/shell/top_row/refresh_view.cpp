@@ -69,13 +69,13 @@ void RefreshView::layOut()
     auto* const quit = new GlyphButton(glyph::quit, tr("Quit Tarnwick"), this);
     connect(quit, &QAbstractButton::clicked, qApp, &QCoreApplication::quit);
 
-    auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(row::insets);
-    row->setSpacing(spacing);
-    row->addWidget(m_name, 0, Qt::AlignVCenter);
-    row->addStretch(1);
+    auto* const line = new QHBoxLayout(this);
+    line->setContentsMargins(row::insets);
+    line->setSpacing(spacing);
+    line->addWidget(m_name, 0, Qt::AlignVCenter);
+    line->addStretch(1);
     for (GlyphButton* const button : {static_cast<GlyphButton*>(update), refresh, settings, quit})
-        row->addWidget(button, 0, Qt::AlignVCenter);
+        line->addWidget(button, 0, Qt::AlignVCenter);
 }
 
 void RefreshView::setFonts()

@@ -19,7 +19,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int panelWidth = 300;
-constexpr int endInset = 7;
+constexpr int verticalInset = 7;
 
 QUrl parsedUrl(const QString& text)
 {
@@ -46,7 +46,7 @@ ActionsView::ActionsView(std::shared_ptr<RepoViewModel> vm, QList<AppEntry> appE
     , m_column(new QVBoxLayout(this))
 {
     setFixedWidth(panelWidth);
-    m_column->setContentsMargins(0, endInset, 0, endInset);
+    m_column->setContentsMargins(0, verticalInset, 0, verticalInset);
     m_column->setSpacing(0);
     observe();
 }
@@ -61,9 +61,9 @@ void ActionsView::render()
 
     const auto start = static_cast<int>(oldFirst - m_items.begin());
     for (auto count = oldLast.base() - oldFirst; count > 0; --count) {
-        const std::unique_ptr<QLayoutItem> gone(m_column->takeAt(start));
-        gone->widget()->hide();
-        gone->widget()->deleteLater();
+        const std::unique_ptr<QLayoutItem> removed(m_column->takeAt(start));
+        removed->widget()->hide();
+        removed->widget()->deleteLater();
     }
     for (auto item = newFirst; item != newLast.base(); ++item)
         m_column->insertWidget(start + static_cast<int>(item - newFirst), newWidget(*item));
@@ -82,7 +82,7 @@ void ActionsView::changeEvent(QEvent* event)
         while (const std::unique_ptr<QLayoutItem> gone{m_column->takeAt(0)})
             gone->widget()->deleteLater();
         m_items.clear();
-        renderSoon();
+        scheduleRender();
     }
     QWidget::changeEvent(event);
 }
@@ -93,19 +93,19 @@ void ActionsView::observe()
          {&RepoViewModel::isRepoChanged, &RepoViewModel::isLoadingChanged,
           &RepoViewModel::statusStringChanged, &RepoViewModel::branchStringChanged,
           &RepoViewModel::remoteUrlChanged})
-        connect(m_vm.get(), change, this, &ActionsView::renderSoon);
+        connect(m_vm.get(), change, this, &ActionsView::scheduleRender);
 }
 
-void ActionsView::renderSoon()
+void ActionsView::scheduleRender()
 {
-    if (!isVisible() || m_isRenderingSoon)
+    if (!isVisible() || m_isRenderScheduled)
         return;
-    m_isRenderingSoon = true;
+    m_isRenderScheduled = true;
     // One query changes several fields.
     QMetaObject::invokeMethod(
         this,
         [this] {
-            m_isRenderingSoon = false;
+            m_isRenderScheduled = false;
             if (isVisible())
                 render();
         },

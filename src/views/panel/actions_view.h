@@ -36,7 +36,7 @@ protected:
 
 private:
     void observe();
-    void renderSoon();
+    void scheduleRender();
     [[nodiscard]] QWidget* newWidget(const PanelItem& item);
     void perform(const PanelItem& item);
 
@@ -47,7 +47,7 @@ private:
     QVBoxLayout* m_column;
     /// One widget of the column for each.
     std::vector<PanelItem> m_items;
-    bool m_isRenderingSoon = false;
+    bool m_isRenderScheduled = false;
 };
 
 } // namespace tarnwick

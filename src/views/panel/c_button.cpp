@@ -19,7 +19,7 @@ constexpr int smallTitleInset = 6;
 constexpr int bodyInset = 6;
 constexpr int outerInset = 20;
 constexpr int subtitleSize = 11;
-constexpr QSize smallest{200, 26};
+constexpr QSize minSize{200, 26};
 
 TextLine* newText(const QString& text, const QColor& color, const QFont& font, QWidget* parent)
 {
@@ -34,7 +34,7 @@ TextLine* newText(const QString& text, const QColor& color, const QFont& font, Q
 CButtonView::CButtonView(const CButton& content, QWidget* parent)
     : QWidget(parent)
 {
-    setMinimumSize(smallest);
+    setMinimumSize(minSize);
     auto* const body = new QVBoxLayout(this);
     constexpr int sideInset = outerInset + bodyInset;
     body->setContentsMargins(sideInset, bodyInset, sideInset, bodyInset);
