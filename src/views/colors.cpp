@@ -136,7 +136,7 @@ QColor teal(Appearance appearance)
 }
 QColor yellow(Appearance appearance)
 {
-    return shade(appearance, 0x7f6300, 0xffd60a);
+    return shade(appearance, 0x866800, 0xffd60a);
 }
 
 } // namespace colors

@@ -133,11 +133,10 @@ private Q_SLOTS:
 
         QMap<int, QRect> lines;
         for (const auto* line : row->findChildren<TextLine*>()) {
+            const QRect area(line->mapTo(row.get(), QPoint()), line->size());
             if (line->isVisible())
-                lines.insert(line->mapTo(row.get(), QPoint()).y(),
-                             QRect(line->mapTo(row.get(), QPoint()), line->size()));
+                lines.insert(area.y(), area);
         }
-        QCOMPARE(lines.size(), 3);
         const QRect name = lines.first();
         const QRect summary = lines.last();
         QVERIFY(std::abs(summary.height() - name.height() * 14 / 13.0) < 3);
