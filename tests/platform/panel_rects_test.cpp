@@ -46,10 +46,8 @@ private Q_SLOTS:
         const QRect item(700, 2, 22, 22);
         row("item", item, {lower, upper}, item);
         row("hidden panel", item, {lower}, {});
-        row("unknown panel", item, {}, item);
         row("click", {700, 580, 0, 0}, {upper, lower}, lower);
         row("nothing known", {}, {upper, lower}, upper);
-        row("nothing there", {}, {}, {});
     }
 
     void colorIsThatBehindTheItem()

@@ -26,12 +26,12 @@ private Q_SLOTS:
         row.show();
         QCOMPARE(row.text(), u"Tarnwick 7"_s);
         const auto buttons = row.findChildren<QPushButton*>();
-        QMap<int, QString> names;
-        for (const QPushButton* const button : buttons)
-            names.insert(button->x(), button->accessibleName());
-        QCOMPARE(names.values(), (QStringList{u"Check for updates"_s, u"Refresh all repositories"_s,
-                                              u"Settings"_s, u"Quit Tarnwick"_s}));
-
+        const QStringList names{u"Check for updates"_s, u"Refresh all repositories"_s,
+                                u"Settings"_s, u"Quit Tarnwick"_s};
+        for (int i = 0; i < 4; ++i) {
+            QCOMPARE(buttons[i]->accessibleName(), names[i]);
+            QVERIFY(i == 0 || buttons[i]->x() > buttons[i - 1]->geometry().right());
+        }
         QSignalSpy loading(record.get(), &RepoViewModel::isLoadingChanged);
         buttons[1]->click();
         QTRY_COMPARE(loading.size(), 2);
@@ -69,8 +69,8 @@ private:
     }
     [[nodiscard]] std::unique_ptr<StandardUpdaterController> stoppedUpdater()
     {
-        auto controller = std::make_unique<StandardUpdaterController>(
-            UpdateSettings{QUrl(u"https://localhost/appcast.xml"_s), "key", u"7"_s, {}}, false);
+        const UpdateSettings settings{QUrl(u"https://localhost/"_s), "key", u"7"_s, {}};
+        auto controller = std::make_unique<StandardUpdaterController>(settings, false);
         m_updater = &controller->updater();
         return controller;
     }
