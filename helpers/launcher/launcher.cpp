@@ -18,8 +18,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// A machine that has just been switched on is slow.
-constexpr auto patience = 60s;
+constexpr auto timeout = 60s; // start-up is slow right after login
 
 } // namespace
 
@@ -27,7 +26,7 @@ Launcher::Launcher(const QDBusConnection& bus, QString application, QObject* par
     : QObject(parent)
     , m_bus(bus)
     , m_application(std::move(application))
-    , m_end(m_application, bus, QDBusServiceWatcher::WatchForUnregistration)
+    , m_watcher(m_application, bus, QDBusServiceWatcher::WatchForUnregistration)
 {
     m_bus.connect(QString(), notificationSignal::path, notificationSignal::interface,
                   notificationSignal::member, {launcher::killNotification, m_application},
@@ -35,12 +34,12 @@ Launcher::Launcher(const QDBusConnection& bus, QString application, QObject* par
     m_bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
                   QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"),
                   this, SLOT(finish()));
-    connect(&m_end, &QDBusServiceWatcher::serviceUnregistered, this,
-            [this] { giveUp("Tarnwick ended early"); });
-    QTimer::singleShot(patience, this, [this] { giveUp("Tarnwick did not come up"); });
+    connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, this,
+            [this] { fail("Tarnwick ended early"); });
+    QTimer::singleShot(timeout, this, [this] { fail("Tarnwick did not come up"); });
 }
 
-bool Launcher::applicationRuns() const
+bool Launcher::isApplicationRunning() const
 {
     return m_bus.interface()->isServiceRegistered(m_application);
 }
@@ -50,7 +49,7 @@ void Launcher::finish()
     QCoreApplication::quit();
 }
 
-void Launcher::giveUp(const char* reason)
+void Launcher::fail(const char* reason)
 {
     std::fprintf(stderr, "tarnwick-launcher: %s\n", reason);
     QCoreApplication::exit(EXIT_FAILURE);

@@ -7,8 +7,8 @@
 
 namespace tarnwick {
 
-/// Waits for an application to come up: ends the event loop when the application has sent the
-/// notification that says so, when it or the session bus has gone, or when it has had time enough.
+/// Waits for an application to start: ends the event loop when the application has posted the kill
+/// notification, when it or the session bus has gone, or after 60 seconds.
 class Launcher : public QObject
 {
     Q_OBJECT
@@ -17,17 +17,17 @@ public:
     /// Listens from here on, so the application may be started at once. `bus` is connected.
     Launcher(const QDBusConnection& bus, QString application, QObject* parent = nullptr);
 
-    [[nodiscard]] bool applicationRuns() const;
+    [[nodiscard]] bool isApplicationRunning() const;
 
 private Q_SLOTS:
     void finish();
 
 private:
-    void giveUp(const char* reason);
+    void fail(const char* reason);
 
     QDBusConnection m_bus;
     const QString m_application;
-    QDBusServiceWatcher m_end;
+    QDBusServiceWatcher m_watcher;
 };
 
 } // namespace tarnwick

@@ -29,13 +29,13 @@ int main(int argc, char* argv[])
 
     QCoreApplication application(argc, argv);
     const QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) // nothing to wait for, then: nobody could tell us anything
+    if (!bus.isConnected()) // then no notification can arrive
         return startApplication() ? EXIT_SUCCESS : EXIT_FAILURE;
     if (!becomeRunningApplication(launcher::identifier))
-        return EXIT_SUCCESS; // another helper is at it
+        return EXIT_SUCCESS; // another instance is waiting already
 
     const Launcher launcher(bus, QStringLiteral(TARNWICK_IDENTIFIER));
-    if (launcher.applicationRuns())
+    if (launcher.isApplicationRunning())
         return EXIT_SUCCESS;
     return startApplication() ? QCoreApplication::exec() : EXIT_FAILURE;
 }

@@ -5,17 +5,17 @@
 
 namespace tarnwick {
 
-/// Waits for an asynchronous call of GIO, which `start` begins with the callback and the data that
-/// it is given. The caller owns the result. Only the asynchronous calls wait for an application
-/// that is started over the bus, and the bus forgets a request whose sender has gone.
+/// Waits for an asynchronous call of GIO, which `start` begins with the given callback and data.
+/// The caller owns the result. Only the asynchronous calls wait for an application that is started
+/// over the bus, and the bus drops a request whose sender has disconnected.
 template <typename Start>
-[[nodiscard]] GAsyncResult* awaited(const Start& start)
+[[nodiscard]] GAsyncResult* waitForResult(const Start& start)
 {
     GAsyncResult* result = nullptr;
-    const GAsyncReadyCallback keep = [](GObject*, GAsyncResult* answer, gpointer kept) {
-        *static_cast<GAsyncResult**>(kept) = G_ASYNC_RESULT(g_object_ref(answer));
+    const GAsyncReadyCallback storeResult = [](GObject*, GAsyncResult* finished, gpointer data) {
+        *static_cast<GAsyncResult**>(data) = G_ASYNC_RESULT(g_object_ref(finished));
     };
-    start(keep, &result);
+    start(storeResult, &result);
     while (!result)
         g_main_context_iteration(nullptr, TRUE);
     return result;

@@ -13,7 +13,7 @@ namespace tarnwick {
 
 namespace {
 
-std::optional<DesktopEntry> entryNamed(const QString& name)
+std::optional<DesktopEntry> findEntry(const QString& name)
 {
     for (const auto place : {DesktopEntryPlace::User, DesktopEntryPlace::System}) {
         for (const DesktopEntry& entry :
@@ -38,7 +38,7 @@ QByteArray execLine(const QStringList& words)
 
 /// The same application with the terminal that it wants in front: GIO knows but a few terminals.
 /// Null where none is installed.
-GDesktopAppInfo* inTerminal(const DesktopEntry& entry, const QByteArray& directory)
+GDesktopAppInfo* wrappedInTerminal(const DesktopEntry& entry, const QByteArray& directory)
 {
     const auto terminal = terminalCommand(QFile::decodeName(directory), {});
     g_autoptr(GKeyFile) file = g_key_file_new();
@@ -59,7 +59,7 @@ GDesktopAppInfo* inTerminal(const DesktopEntry& entry, const QByteArray& directo
 
 Failure openInApplication(const QByteArray& name, const QByteArray& directory)
 {
-    const auto entry = entryNamed(QString::fromUtf8(name));
+    const auto entry = findEntry(QString::fromUtf8(name));
     if (!entry)
         return "there is no application called \"" + name + '"';
     if (!g_file_test(directory.constData(), G_FILE_TEST_EXISTS))
@@ -70,7 +70,7 @@ Failure openInApplication(const QByteArray& name, const QByteArray& directory)
     if (application &&
         g_desktop_app_info_get_boolean(application, G_KEY_FILE_DESKTOP_KEY_TERMINAL)) {
         g_object_unref(application);
-        application = inTerminal(*entry, directory);
+        application = wrappedInTerminal(*entry, directory);
         if (!application)
             return name + " needs a terminal, and none is installed";
     }
@@ -80,7 +80,7 @@ Failure openInApplication(const QByteArray& name, const QByteArray& directory)
     g_autoptr(GFile) file = g_file_new_for_path(directory.constData());
     g_autofree char* uri = g_file_get_uri(file);
     GList uris{uri, nullptr, nullptr};
-    g_autoptr(GAsyncResult) result = awaited([&](GAsyncReadyCallback done, gpointer data) {
+    g_autoptr(GAsyncResult) result = waitForResult([&](GAsyncReadyCallback done, gpointer data) {
         g_app_info_launch_uris_async(G_APP_INFO(application), &uris, nullptr, nullptr, done, data);
     });
     g_autoptr(GError) error = nullptr;

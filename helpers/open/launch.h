@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "open/hand_over.h"
+#include "open/detached_request.h"
 
 namespace tarnwick {
 

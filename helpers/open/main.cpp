@@ -11,7 +11,7 @@ namespace {
 
 using namespace tarnwick;
 
-std::function<Failure()> requestOf(const std::vector<std::string_view>& arguments)
+std::function<Failure()> parseRequest(const std::vector<std::string_view>& arguments)
 {
     for (const std::string_view argument : arguments) {
         if (argument.empty())
@@ -28,13 +28,13 @@ std::function<Failure()> requestOf(const std::vector<std::string_view>& argument
 
 int main(int argc, char* argv[])
 {
-    const auto request = requestOf({argv + 1, argv + argc});
+    const auto request = parseRequest({argv + 1, argv + argc});
     if (!request) {
         std::cerr << "usage: open -a APPLICATION DIRECTORY\n       open --reveal PATH\n";
         return EX_USAGE;
     }
-    // Our caller's menu stands still for as long as we run.
-    if (const auto failure = handOver(request, std::chrono::seconds(1))) {
+    // The caller blocks its user interface while this program runs.
+    if (const auto failure = runDetached(request, std::chrono::seconds(1))) {
         std::cerr << "open: " << failure->constData() << '\n';
         return EXIT_FAILURE;
     }

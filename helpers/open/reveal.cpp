@@ -5,9 +5,11 @@
 
 namespace tarnwick {
 
+using namespace std::chrono_literals;
+
 namespace {
 
-constexpr int answerTimeoutMs = 5000; // enough for the bus to start a file manager
+constexpr std::chrono::milliseconds replyTimeout = 5s; // enough for the bus to start a file manager
 
 bool exists(GFile* file)
 {
@@ -35,18 +37,18 @@ bool selectInFileManager(GFile* file)
         return false;
     g_autofree char* uri = g_file_get_uri(file);
     const char* const uris[] = {uri, nullptr};
-    g_autoptr(GVariant) answer = g_dbus_connection_call_sync(
+    g_autoptr(GVariant) reply = g_dbus_connection_call_sync(
         bus, "org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
         "org.freedesktop.FileManager1", "ShowItems", g_variant_new("(^ass)", uris, ""), nullptr,
-        G_DBUS_CALL_FLAGS_NONE, answerTimeoutMs, nullptr, nullptr);
-    return answer != nullptr;
+        G_DBUS_CALL_FLAGS_NONE, static_cast<int>(replyTimeout.count()), nullptr, nullptr);
+    return reply != nullptr;
 }
 
-Failure openFolderAround(GFile* file)
+Failure openParentFolder(GFile* file)
 {
     g_autoptr(GFile) parent = g_file_get_parent(file);
     g_autofree char* uri = g_file_get_uri(parent ? parent : file);
-    g_autoptr(GAsyncResult) result = awaited([&](GAsyncReadyCallback done, gpointer data) {
+    g_autoptr(GAsyncResult) result = waitForResult([&](GAsyncReadyCallback done, gpointer data) {
         g_app_info_launch_default_for_uri_async(uri, nullptr, nullptr, done, data);
     });
     g_autoptr(GError) error = nullptr;
@@ -60,7 +62,7 @@ Failure openFolderAround(GFile* file)
 Failure revealInFileManager(const QByteArray& path)
 {
     g_autoptr(GFile) file = nearestExisting(path);
-    return selectInFileManager(file) ? std::nullopt : openFolderAround(file);
+    return selectInFileManager(file) ? std::nullopt : openParentFolder(file);
 }
 
 } // namespace tarnwick

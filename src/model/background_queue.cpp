@@ -14,10 +14,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto patience = 3s;
-constexpr int waitAtEndMs = 1000;
+constexpr auto jobTimeout = 3s;
+constexpr std::chrono::milliseconds shutdownTimeout = 1s;
 
-enum class Place { Held, GivenUp, Left };
+enum class JobState { Running, Detached, Finished };
 
 } // namespace
 
@@ -29,27 +29,27 @@ BackgroundQueue::BackgroundQueue(QObject* parent)
 BackgroundQueue::~BackgroundQueue()
 {
     m_pool->clear();
-    // The pool's destructor would wait for a hanging job for ever.
-    if (!m_pool->waitForDone(waitAtEndMs))
+    // The destructor of the pool would wait for a hanging job without a timeout.
+    if (!m_pool->waitForDone(static_cast<int>(shutdownTimeout.count())))
         static_cast<void>(m_pool.release());
 }
 
 void BackgroundQueue::post(std::function<void()> job)
 {
-    auto place = std::make_shared<std::atomic<Place>>(Place::Held);
+    auto state = std::make_shared<std::atomic<JobState>>(JobState::Running);
     QThreadPool* const pool = m_pool.get();
 
-    const auto giveUpPlace = [place, pool] {
-        auto held = Place::Held;
-        if (place->compare_exchange_strong(held, Place::GivenUp))
+    const auto detach = [state, pool] {
+        auto running = JobState::Running;
+        if (state->compare_exchange_strong(running, JobState::Detached))
             pool->releaseThread();
     };
-    pool->start([this, place, pool, giveUpPlace, job = std::move(job)] {
+    pool->start([this, state, pool, detach, job = std::move(job)] {
         enterBackgroundPriority();
-        QMetaObject::invokeMethod(
-            this, [this, giveUpPlace] { QTimer::singleShot(patience, this, giveUpPlace); });
+        QMetaObject::invokeMethod(this,
+                                  [this, detach] { QTimer::singleShot(jobTimeout, this, detach); });
         job();
-        if (place->exchange(Place::Left) == Place::GivenUp)
+        if (state->exchange(JobState::Finished) == JobState::Detached)
             pool->reserveThread();
     });
 }

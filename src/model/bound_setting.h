@@ -9,7 +9,7 @@ namespace tarnwick {
 
 class PreferencesStore;
 
-/// One yes-or-no preference as a view sees it: the fallback while the key is absent (which is never
+/// One boolean preference as a view sees it: the fallback while the key is absent (which is never
 /// written), a write on every change, and a signal for every write of the same key, whoever made
 /// it. The store must outlive the setting.
 class BoundSetting : public QObject

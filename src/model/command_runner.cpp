@@ -16,7 +16,7 @@ namespace {
 
 constexpr int noTimeout = -1;
 
-std::optional<QString> decodedUtf8(const QByteArray& bytes)
+std::optional<QString> decodeUtf8(const QByteArray& bytes)
 {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless |
                                                      QStringDecoder::Flag::ConvertInitialBom);
@@ -47,8 +47,8 @@ void CommandRunner::runGit(const QStringList& arguments, std::shared_ptr<RepoVie
         stopProcess();
     git.waitForFinished(noTimeout);
 
-    if (auto output = decodedUtf8(git.readAllStandardOutput())) {
-        // A git that hung until the end of the application has nobody left to tell.
+    if (auto output = decodeUtf8(git.readAllStandardOutput())) {
+        // Null for a git that hung until after the application object was destroyed.
         if (auto* const application = QCoreApplication::instance()) {
             QMetaObject::invokeMethod(
                 application,
@@ -58,7 +58,7 @@ void CommandRunner::runGit(const QStringList& arguments, std::shared_ptr<RepoVie
         }
         return;
     }
-    if (const auto error = decodedUtf8(git.readAllStandardError())) {
+    if (const auto error = decodeUtf8(git.readAllStandardError())) {
         writeDiagnosticLine(*error);
         completion(QStringLiteral("1?"), *record);
     }

@@ -14,7 +14,7 @@ namespace {
 
 constexpr QChar noBreakSpace(u'\u00A0');
 
-QString trimmedOfBlanks(const QString& piece)
+QString trimBlanks(const QString& piece)
 {
     const auto isBlank = [](QChar c) { return c == u' ' || c == u'\t'; };
     qsizetype first = 0;
@@ -26,19 +26,19 @@ QString trimmedOfBlanks(const QString& piece)
     return piece.mid(first, last - first);
 }
 
-std::optional<QString> part(qsizetype count, const QString& word)
+SummaryPart makePart(qsizetype count, const QString& word)
 {
     if (count == 0)
         return std::nullopt;
     return QString::number(count) + noBreakSpace + word;
 }
 
-qsizetype occurrences(const QString& gitStatus, const QStringList& codes)
+qsizetype countOccurrences(const QString& gitStatus, const QStringList& codes)
 {
     return components2(gitStatus, codes).size() - 1;
 }
 
-qsizetype linesStartingWith(const QString& gitStatus, QStringView code)
+qsizetype countLinesStartingWith(const QString& gitStatus, QStringView code)
 {
     const auto lines = QStringView(gitStatus).split(u'\n', Qt::SkipEmptyParts);
     return std::count_if(lines.cbegin(), lines.cend(),
@@ -46,7 +46,7 @@ qsizetype linesStartingWith(const QString& gitStatus, QStringView code)
 }
 
 /// The header counts commits as in "[ahead 2, behind 1]".
-std::optional<QString> headerCount(const QString& gitStatus, const QString& word)
+SummaryPart headerCount(const QString& gitStatus, const QString& word)
 {
     const QRegularExpression counted(word + QStringLiteral("\\s+(\\d+)"));
     const auto match = counted.match(gitStatus);
@@ -61,69 +61,69 @@ QStringList components2(const QString& text, const QStringList& separators)
 {
     QStringList pieces{text};
     for (const QString& separator : separators) {
-        QStringList finer;
+        QStringList split;
         for (const QString& piece : std::as_const(pieces))
-            finer += piece.split(separator);
-        pieces = std::move(finer);
+            split += piece.split(separator);
+        pieces = std::move(split);
     }
-    std::transform(pieces.cbegin(), pieces.cend(), pieces.begin(), trimmedOfBlanks);
+    std::transform(pieces.cbegin(), pieces.cend(), pieces.begin(), trimBlanks);
     return pieces;
 }
 
-std::optional<QString> changesString(const QString& gitStatus)
+SummaryPart changesString(const QString& gitStatus)
 {
-    const auto count = occurrences(gitStatus, {QStringLiteral(" M "), QStringLiteral("MM ")});
-    return part(count, count == 1 ? QStringLiteral("change") : QStringLiteral("changes"));
+    const auto count = countOccurrences(gitStatus, {QStringLiteral(" M "), QStringLiteral("MM ")});
+    return makePart(count, count == 1 ? QStringLiteral("change") : QStringLiteral("changes"));
 }
 
-std::optional<QString> behindString(const QString& gitStatus)
+SummaryPart behindString(const QString& gitStatus)
 {
     return headerCount(gitStatus, QStringLiteral("behind"));
 }
 
-std::optional<QString> aheadString(const QString& gitStatus)
+SummaryPart aheadString(const QString& gitStatus)
 {
     return headerCount(gitStatus, QStringLiteral("ahead"));
 }
 
-std::optional<QString> addedString(const QString& gitStatus)
+SummaryPart addedString(const QString& gitStatus)
 {
-    return part(linesStartingWith(gitStatus, u"A  "), QStringLiteral("added"));
+    return makePart(countLinesStartingWith(gitStatus, u"A  "), QStringLiteral("added"));
 }
 
-std::optional<QString> untrackedString(const QString& gitStatus)
+SummaryPart untrackedString(const QString& gitStatus)
 {
-    return part(linesStartingWith(gitStatus, u"??"), QStringLiteral("untracked"));
+    return makePart(countLinesStartingWith(gitStatus, u"??"), QStringLiteral("untracked"));
 }
 
-std::optional<QString> stagedString(const QString& gitStatus)
+SummaryPart stagedString(const QString& gitStatus)
 {
-    const auto count = occurrences(gitStatus, {QStringLiteral("M  "), QStringLiteral("MM ")});
-    return part(count, QStringLiteral("staged"));
+    const auto count = countOccurrences(gitStatus, {QStringLiteral("M  "), QStringLiteral("MM ")});
+    return makePart(count, QStringLiteral("staged"));
 }
 
-std::optional<QString> removedString(const QString& gitStatus)
+SummaryPart removedString(const QString& gitStatus)
 {
-    return part(linesStartingWith(gitStatus, u" D"), QStringLiteral("removed"));
+    return makePart(countLinesStartingWith(gitStatus, u" D"), QStringLiteral("removed"));
 }
 
-std::optional<QString> deletedString(const QString& gitStatus)
+SummaryPart deletedString(const QString& gitStatus)
 {
-    return part(linesStartingWith(gitStatus, u"D  "), QStringLiteral("deleted"));
+    return makePart(countLinesStartingWith(gitStatus, u"D  "), QStringLiteral("deleted"));
 }
 
 std::optional<QString> statusSummary(const QString& gitStatus)
 {
-    constexpr std::array parts{changesString,   behindString, aheadString,   addedString,
-                               untrackedString, stagedString, removedString, deletedString};
-    QStringList applying;
-    for (const auto partOf : parts) {
-        if (const auto text = partOf(gitStatus))
-            applying += *text;
+    constexpr std::array partFunctions{changesString,   behindString, aheadString,   addedString,
+                                       untrackedString, stagedString, removedString, deletedString};
+    QStringList parts;
+    for (const auto partFunction : partFunctions) {
+        if (const auto text = partFunction(gitStatus))
+            parts += *text;
     }
-    if (applying.isEmpty())
+    if (parts.isEmpty())
         return std::nullopt;
-    return applying.join(QStringLiteral(", "));
+    return parts.join(QStringLiteral(", "));
 }
 
 QStringList changedFiles(const QString& gitStatus)
@@ -135,17 +135,17 @@ QStringList changedFiles(const QString& gitStatus)
     lines.removeLast();
 
     const QString both = QStringLiteral("MM ");
-    QStringList unsplit;
-    QStringList halves;
+    QStringList otherLines;
+    QStringList splitLines;
     for (const QString& line : std::as_const(lines)) {
         if (!line.startsWith(both)) {
-            unsplit += line;
+            otherLines += line;
             continue;
         }
-        halves += QString(line).replace(both, QStringLiteral("M  "));
-        halves += QString(line).replace(both, QStringLiteral(" M "));
+        splitLines += QString(line).replace(both, QStringLiteral("M  "));
+        splitLines += QString(line).replace(both, QStringLiteral(" M "));
     }
-    return unsplit + halves;
+    return otherLines + splitLines;
 }
 
 } // namespace tarnwick

@@ -18,16 +18,17 @@ namespace tarnwick {
 /// feeds, from each piece. Empty pieces stay: there is always one piece more than occurrences.
 [[nodiscard]] QStringList components2(const QString& text, const QStringList& separators);
 
-// The parts of the summary: a decimal count, a no-break space and a word; nothing when the count
-// is none.
-[[nodiscard]] std::optional<QString> changesString(const QString& gitStatus);
-[[nodiscard]] std::optional<QString> behindString(const QString& gitStatus);
-[[nodiscard]] std::optional<QString> aheadString(const QString& gitStatus);
-[[nodiscard]] std::optional<QString> addedString(const QString& gitStatus);
-[[nodiscard]] std::optional<QString> untrackedString(const QString& gitStatus);
-[[nodiscard]] std::optional<QString> stagedString(const QString& gitStatus);
-[[nodiscard]] std::optional<QString> removedString(const QString& gitStatus);
-[[nodiscard]] std::optional<QString> deletedString(const QString& gitStatus);
+/// One part of the summary: a decimal count, a no-break space and a word; nothing for a count of 0.
+using SummaryPart = std::optional<QString>;
+
+[[nodiscard]] SummaryPart changesString(const QString& gitStatus);
+[[nodiscard]] SummaryPart behindString(const QString& gitStatus);
+[[nodiscard]] SummaryPart aheadString(const QString& gitStatus);
+[[nodiscard]] SummaryPart addedString(const QString& gitStatus);
+[[nodiscard]] SummaryPart untrackedString(const QString& gitStatus);
+[[nodiscard]] SummaryPart stagedString(const QString& gitStatus);
+[[nodiscard]] SummaryPart removedString(const QString& gitStatus);
+[[nodiscard]] SummaryPart deletedString(const QString& gitStatus);
 
 /// All parts that apply, in the order of the declarations above, joined by ", "; nothing for a
 /// clean working tree that is level with its upstream.

@@ -5,7 +5,7 @@
 
 namespace tarnwick {
 
-/// A yes-or-no preference: the key it is stored under, and what a reader takes while it is absent.
+/// A boolean preference: the key it is stored under, and what a reader takes while it is absent.
 struct BoolPreference
 {
     QString key;

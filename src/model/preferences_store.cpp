@@ -82,7 +82,7 @@ void PreferencesStore::synchronize()
     {
         const QMutexLocker lock(&m_valuesMutex);
         m_isSaveScheduled = false;
-        if (!m_hasUnsavedWrites || !m_fileIsOurs)
+        if (!m_hasUnsavedWrites || !m_isWritable)
             return;
         m_hasUnsavedWrites = false;
         values = m_values;
@@ -107,9 +107,9 @@ void PreferencesStore::load()
         }
         file.close();
     }
-    m_fileIsOurs = setAside(m_filePath);
+    m_isWritable = setAside(m_filePath);
     writeDiagnosticLine(m_filePath +
-                        (m_fileIsOurs
+                        (m_isWritable
                              ? QStringLiteral(" is no preferences file and was set aside")
                              : QStringLiteral(" is no preferences file and is left alone; nothing "
                                               "will be remembered")));

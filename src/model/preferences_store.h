@@ -52,7 +52,7 @@ private:
     void write(const QString& key, const QJsonValue& value);
 
     const QString m_filePath;
-    bool m_fileIsOurs = true;
+    bool m_isWritable = true;
 
     mutable QMutex m_valuesMutex;
     QJsonObject m_values;

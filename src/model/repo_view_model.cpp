@@ -4,7 +4,6 @@
 #include "model/background_queue.h"
 #include "model/command_runner.h"
 #include "model/diagnostics.h"
-#include "model/git_status.h"
 #include "model/preference_keys.h"
 #include "model/preferences_store.h"
 #include "model/remote_address.h"
@@ -24,12 +23,6 @@ void destroyOnItsThread(RepoViewModel* record)
         delete record;
     else
         record->deleteLater();
-}
-
-std::optional<QString> partOf(const std::optional<QString>& gitStatus,
-                              std::optional<QString> (*part)(const QString&))
-{
-    return gitStatus ? part(*gitStatus) : std::nullopt;
 }
 
 } // namespace
@@ -120,46 +113,6 @@ void RepoViewModel::applyStatus(const QString& text)
     m_gitStatus = text;
     setStatusString(statusSummary(text));
     setIsLoading(false);
-}
-
-std::optional<QString> RepoViewModel::changesString() const
-{
-    return partOf(m_gitStatus, tarnwick::changesString);
-}
-
-std::optional<QString> RepoViewModel::behindString() const
-{
-    return partOf(m_gitStatus, tarnwick::behindString);
-}
-
-std::optional<QString> RepoViewModel::aheadString() const
-{
-    return partOf(m_gitStatus, tarnwick::aheadString);
-}
-
-std::optional<QString> RepoViewModel::addedString() const
-{
-    return partOf(m_gitStatus, tarnwick::addedString);
-}
-
-std::optional<QString> RepoViewModel::untrackedString() const
-{
-    return partOf(m_gitStatus, tarnwick::untrackedString);
-}
-
-std::optional<QString> RepoViewModel::stagedString() const
-{
-    return partOf(m_gitStatus, tarnwick::stagedString);
-}
-
-std::optional<QString> RepoViewModel::removedString() const
-{
-    return partOf(m_gitStatus, tarnwick::removedString);
-}
-
-std::optional<QString> RepoViewModel::deletedString() const
-{
-    return partOf(m_gitStatus, tarnwick::deletedString);
 }
 
 QStringList RepoViewModel::changedFiles() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/git_status.h"
 #include "model/project_files.h"
 #include "model/repo_link.h"
 
@@ -84,15 +85,15 @@ public:
     void refreshStatus();
     void refreshStatusInBackground();
 
-    // The parts of the summary and the changed paths, read from `gitStatus`; see git_status.h.
-    [[nodiscard]] std::optional<QString> changesString() const;
-    [[nodiscard]] std::optional<QString> behindString() const;
-    [[nodiscard]] std::optional<QString> aheadString() const;
-    [[nodiscard]] std::optional<QString> addedString() const;
-    [[nodiscard]] std::optional<QString> untrackedString() const;
-    [[nodiscard]] std::optional<QString> stagedString() const;
-    [[nodiscard]] std::optional<QString> removedString() const;
-    [[nodiscard]] std::optional<QString> deletedString() const;
+    // Read from `gitStatus`; see git_status.h.
+    [[nodiscard]] SummaryPart changesString() const { return tarnwick::changesString(raw()); }
+    [[nodiscard]] SummaryPart behindString() const { return tarnwick::behindString(raw()); }
+    [[nodiscard]] SummaryPart aheadString() const { return tarnwick::aheadString(raw()); }
+    [[nodiscard]] SummaryPart addedString() const { return tarnwick::addedString(raw()); }
+    [[nodiscard]] SummaryPart untrackedString() const { return tarnwick::untrackedString(raw()); }
+    [[nodiscard]] SummaryPart stagedString() const { return tarnwick::stagedString(raw()); }
+    [[nodiscard]] SummaryPart removedString() const { return tarnwick::removedString(raw()); }
+    [[nodiscard]] SummaryPart deletedString() const { return tarnwick::deletedString(raw()); }
     [[nodiscard]] QStringList changedFiles() const;
 
     /// Whether the branch is a main line of development, by its name.
@@ -138,6 +139,7 @@ private:
     void startQueries();
     void refreshRemoteUrl();
     void applyStatus(const QString& text);
+    [[nodiscard]] QString raw() const { return m_gitStatus.value_or(QString()); }
 
     void setIsRepo(bool isRepo);
     void setIsLoading(bool isLoading);

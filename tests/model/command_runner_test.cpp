@@ -58,7 +58,7 @@ private Q_SLOTS:
         QTEST(delivery.output, "expected");
     }
 
-    void undecodableOutputAnswersAtOnce()
+    void undecodableOutputCompletesOnTheCallingThread()
     {
         Delivery delivery;
         QSemaphore done;
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QVERIFY(delivery.thread != QThread::currentThread());
     }
 
-    void nothingDecodableAnswersNever()
+    void undecodableChannelsNeverComplete()
     {
         Delivery delivery;
         m_shell.runGit({u"-c"_s, u"printf '\\302'; printf '\\377' >&2"_s}, m_record,
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(delivery.count, 0);
     }
 
-    void openIsAwaited()
+    void waitsForOpen()
     {
         const QTemporaryDir dir;
         const QString proof = dir.filePath(u"it's \"$(done)\""_s);
@@ -93,16 +93,16 @@ private Q_SLOTS:
         CommandRunner({.open = u"/nonexistent/open"_s}).runOpen({u"-a"_s, u"x"_s});
     }
 
-    void hangingJobsGiveUpTheirPlace()
+    void hangingJobsDoNotBlockOthers()
     {
         QSemaphore hung;
-        const int places = QThread::idealThreadCount();
-        for (int i = 0; i < places; ++i)
+        const int threads = QThread::idealThreadCount();
+        for (int i = 0; i < threads; ++i)
             m_bench.queue.post([&hung] { hung.acquire(); });
         std::atomic_bool ran = false;
         m_bench.queue.post([&ran] { ran = true; });
         QTRY_VERIFY_WITH_TIMEOUT(ran, 15000);
-        hung.release(places);
+        hung.release(threads);
     }
 
     void stops_data()

@@ -22,7 +22,7 @@ private Q_SLOTS:
         m_path = m_folder->filePath(u"sub/preferences.json"_s);
     }
 
-    void typesSurviveARestart()
+    void typesPersist()
     {
         {
             PreferencesStore store(m_path);
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QVERIFY(!store.boolForKey(u"showinapps___Atom.app"_s));
     }
 
-    void unreadableFileIsSetAside()
+    void malformedFileIsSetAside()
     {
         const QList<QByteArray> contents{"{\"repos\": \"/a", "[]", ""};
         for (const QByteArray& content : contents) {

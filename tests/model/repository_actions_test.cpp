@@ -39,7 +39,7 @@ private Q_SLOTS:
         QCOMPARE(remoteWebAddress(remote).value_or(QString()), address);
     }
 
-    void remoteIsLearntOnceAtCreation()
+    void remoteIsReadOnceAtCreation()
     {
         const TemporaryRepository repository;
         repository.run({u"git remote add origin git@github.com:owner/repo.git"_s});
@@ -51,7 +51,7 @@ private Q_SLOTS:
         QCOMPARE(record->remoteUrl(), u"https://github.com/owner/repo"_s);
     }
 
-    void linksAreReadAsTyped_data()
+    void parsesLinks_data()
     {
         const auto row = table<QString, QList<RepoLink>>("stored", "links");
         row("empty lines", u"\nhttp://a @@ Docs\n\n"_s, {{u"http://a"_s, u"Docs"_s}});
@@ -60,7 +60,7 @@ private Q_SLOTS:
         row("empty text", {}, {});
     }
 
-    void linksAreReadAsTyped()
+    void parsesLinks()
     {
         QFETCH(QString, stored);
         const auto here = m_bench.record(u"/nonexistent/a/app"_s);
@@ -74,26 +74,26 @@ private Q_SLOTS:
         }
     }
 
-    void terminalIsTold()
+    void opensTerminals()
     {
         const auto record = m_bench.record(u"/tmp/x"_s);
         record->push();
         record->pull();
         record->stash();
         record->startTerminal();
-        QStringList told;
+        QStringList commands;
         for (const TerminalRequest& request : m_bench.terminal.requests) {
             QCOMPARE(request.dir, u"/tmp/x"_s);
             const QString command = request.command.join(u' ');
             const QString line = command.isEmpty() ? command : u" && "_s + command;
             QCOMPARE(request.appleScript, u"tell application \"Terminal\"\n    activate\n"
                                           "    do script \"cd '/tmp/x'%1\"\nend tell"_s.arg(line));
-            told += command;
+            commands += command;
         }
-        QCOMPARE(told, (QStringList{u"git push"_s, u"git pull"_s, u"git stash"_s, {}}));
+        QCOMPARE(commands, (QStringList{u"git push"_s, u"git pull"_s, u"git stash"_s, {}}));
     }
 
-    void projectsOfTwoLevelsAreFound()
+    void findsProjectsOnTwoLevels()
     {
         const QTemporaryDir root;
         for (const auto* folder :

@@ -39,7 +39,7 @@ private Q_SLOTS:
              u"git merge -q o || true"_s},
             u"main: clean"_s);
         row("rename", {u"git mv a z; echo x >> b"_s}, u"main: 1 change"_s);
-        row("not git's after all", {u"rm -rf .git; mkdir .git"_s}, u": clean"_s);
+        row("invalid repository", {u"rm -rf .git; mkdir .git"_s}, u": clean"_s);
     }
 
     void readsRealRepositories()
@@ -47,7 +47,7 @@ private Q_SLOTS:
         QFETCH(QStringList, commands);
         const TemporaryRepository repository;
         repository.run(commands);
-        QTEST(settled(*m_bench.record(repository.dir())), "expected");
+        QTEST(loadedText(*m_bench.record(repository.dir())), "expected");
     }
 
     void readsLinkedWorkTreesAndSubmodules()
@@ -57,19 +57,19 @@ private Q_SLOTS:
                         u"git init -q -b main ../outer; cd ../outer"_s,
                         u"git -c protocol.file.allow=always submodule --quiet add ../repo inner"_s,
                         u"echo x >> inner/a"_s});
-        QCOMPARE(settled(*m_bench.record(repository.beside(u"tree"_s))), u"side: 1 untracked"_s);
-        QCOMPARE(settled(*m_bench.record(repository.beside(u"outer/inner"_s))),
+        QCOMPARE(loadedText(*m_bench.record(repository.beside(u"tree"_s))), u"side: 1 untracked"_s);
+        QCOMPARE(loadedText(*m_bench.record(repository.beside(u"outer/inner"_s))),
                  u"main: 1 change"_s);
     }
 
-    void surroundingsChangeNothing()
+    void ignoresInheritedEnvironment()
     {
         const TemporaryRepository repository;
         repository.run(
             {u"git clone -q --bare . ../up.git; git remote add origin ../up.git"_s,
              u"git fetch -q; git branch -q -u origin/main; git config color.status always"_s,
              u"git config color.ui always; git commit -q --allow-empty -m x; echo x >> a"_s});
-        const std::pair<const char*, const char*> surroundings[]{
+        const std::pair<const char*, const char*> environment[]{
             {"LANG", "de_DE.UTF-8"},
             {"LANGUAGE", "de:fr"},
             {"GIT_DIR", "/nonexistent/.git"},
@@ -77,21 +77,21 @@ private Q_SLOTS:
             {"GIT_INDEX_FILE", "/nonexistent/index"},
             {"GIT_CONFIG_PARAMETERS", "'status.branch'='false' 'color.status'='always'"},
             {"GIT_CONFIG_COUNT", "nonsense"}};
-        for (const auto& [variable, value] : surroundings) {
+        for (const auto& [variable, value] : environment) {
             qputenv(variable, value);
-            const QString read = settled(*m_bench.record(repository.dir()));
+            const QString read = loadedText(*m_bench.record(repository.dir()));
             qunsetenv(variable);
             QVERIFY2(read == u"main: 1 change, 1 ahead", variable);
         }
     }
 
-    void namesThePathsOfOddFolders()
+    void handlesSpecialCharactersInPaths()
     {
         const TemporaryRepository repository(u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_s);
         repository.write(u"A M \u00e9.txt"_s, "new");
         const auto odd = m_bench.record(repository.dir());
         QCOMPARE(odd->name(), u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_s);
-        QCOMPARE(settled(*odd), u"main: 1 change, 1 untracked"_s);
+        QCOMPARE(loadedText(*odd), u"main: 1 change, 1 untracked"_s);
         // Git quotes such a name.
         QCOMPARE(odd->changedFiles(), QStringList{u"?? \"A M \\303\\251.txt\""_s});
         QCOMPARE(m_bench.record(u"/nonexistent/"_s)->name(), QString());
@@ -108,14 +108,14 @@ private Q_SLOTS:
         QVERIFY(!plain->isRepo() && !plain->branchString() && !plain->isLoading());
     }
 
-    void staysWhatItWasAtCreation()
+    void refreshKeepsWhatCreationDecided()
     {
         const TemporaryRepository repository;
         const auto watched = m_bench.record(repository.dir());
         QStringList loading;
         connect(watched.get(), &RepoViewModel::isLoadingChanged, watched.get(),
                 [&] { loading += watched->isLoading() ? u"on"_s : u"off"_s; });
-        QCOMPARE(settled(*watched), u"main: clean"_s);
+        QCOMPARE(loadedText(*watched), u"main: clean"_s);
         QVERIFY(watched->isMainBranch());
 
         repository.run({u"git checkout -q -b Main; touch n"_s});
@@ -134,7 +134,7 @@ private Q_SLOTS:
 
 private:
     /// The branch and the summary, once both queries have ended.
-    QString settled(const RepoViewModel& record)
+    QString loadedText(const RepoViewModel& record)
     {
         if (!QTest::qWaitFor([&] { return record.gitStatus() && record.branchString(); }, 10000))
             return u"never settled"_s;

@@ -12,7 +12,7 @@ class AutostartEntryTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void anyPathIsStarted()
+    void startsAnyPath()
     {
         const QString program = m_root.filePath(u"a \"b\" 'c' $HOME `d` \\s \\\\ \n;&é/run"_s);
         writeFile(program, "#!/bin/sh\ntouch \"$0.started\"\n");

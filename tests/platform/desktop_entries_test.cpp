@@ -61,7 +61,7 @@ private Q_SLOTS:
         QTEST(found.join(u','), "expected");
     }
 
-    void seesChangesInTheNextTurn()
+    void rereadsInTheNextEventLoopTurn()
     {
         const FreedesktopApplicationFolder system(DesktopEntryPlace::System);
         QVERIFY(!system.contains(u"X.app"_s));

@@ -10,7 +10,7 @@ class DurableFileTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void onlyTheOwnerMayReadWhatALinkLeadsTo()
+    void replacesLinkTargetWithOwnerOnlyFile()
     {
         const QTemporaryDir folder;
         QFile file(folder.filePath(u"new/deep/file"_s));

@@ -59,18 +59,18 @@ QString FreedesktopApplicationFolder::path() const
 
 std::optional<QStringList> FreedesktopApplicationFolder::entries() const
 {
-    const Reading& now = reading();
-    return now.succeeded ? std::optional(now.iconByName.keys()) : std::nullopt;
+    const Listing& current = listing();
+    return current.succeeded ? std::optional(current.iconByName.keys()) : std::nullopt;
 }
 
 bool FreedesktopApplicationFolder::contains(const QString& name) const
 {
-    return reading().iconByName.contains(name);
+    return listing().iconByName.contains(name);
 }
 
 QIcon FreedesktopApplicationFolder::icon(const QString& name) const
 {
-    const QString icon = reading().iconByName.value(name);
+    const QString icon = listing().iconByName.value(name);
     if (icon.isEmpty())
         return {};
     if (QDir::isAbsolutePath(icon))
@@ -78,17 +78,17 @@ QIcon FreedesktopApplicationFolder::icon(const QString& name) const
     return QIcon::fromTheme(themeName(icon));
 }
 
-const FreedesktopApplicationFolder::Reading& FreedesktopApplicationFolder::reading() const
+const FreedesktopApplicationFolder::Listing& FreedesktopApplicationFolder::listing() const
 {
-    if (m_reading)
-        return *m_reading;
+    if (m_listing)
+        return *m_listing;
     const auto entries = shownDesktopEntries(m_place);
-    m_reading = Reading{entries.has_value(), {}};
+    m_listing = Listing{entries.has_value(), {}};
     for (const DesktopEntry& entry : entries.value_or(QList<DesktopEntry>()))
-        m_reading->iconByName.insert(entry.name + QStringLiteral(".app"), entry.icon);
+        m_listing->iconByName.insert(entry.name + QStringLiteral(".app"), entry.icon);
     QMetaObject::invokeMethod(
-        &m_turn, [this] { m_reading.reset(); }, Qt::QueuedConnection);
-    return *m_reading;
+        &m_resetContext, [this] { m_listing.reset(); }, Qt::QueuedConnection);
+    return *m_listing;
 }
 
 } // namespace tarnwick

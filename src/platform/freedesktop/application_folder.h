@@ -22,17 +22,17 @@ public:
     [[nodiscard]] QIcon icon(const QString& name) const override;
 
 private:
-    struct Reading
+    struct Listing
     {
         bool succeeded;
         QHash<QString, QString> iconByName;
     };
 
-    [[nodiscard]] const Reading& reading() const;
+    [[nodiscard]] const Listing& listing() const;
 
     DesktopEntryPlace m_place;
-    mutable std::optional<Reading> m_reading;
-    mutable QObject m_turn;
+    mutable std::optional<Listing> m_listing;
+    mutable QObject m_resetContext;
 };
 
 /// Completes where QIcon looks for the icons of applications, for the whole program. They bring

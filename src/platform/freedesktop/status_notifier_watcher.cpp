@@ -26,22 +26,22 @@ StatusNotifierWatcher::StatusNotifierWatcher(QObject* parent)
         return;
     }
     connect(&m_owner, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            &StatusNotifierWatcher::query);
+            &StatusNotifierWatcher::queryState);
     for (const QString& change : {QStringLiteral("StatusNotifierHostRegistered"),
                                   QStringLiteral("StatusNotifierHostUnregistered")})
-        bus.connect(service, path, service, change, this, SLOT(query()));
-    query();
+        bus.connect(service, path, service, change, this, SLOT(queryState()));
+    queryState();
 }
 
-void StatusNotifierWatcher::query()
+void StatusNotifierWatcher::queryState()
 {
-    QDBusMessage question = QDBusMessage::createMethodCall(
+    QDBusMessage request = QDBusMessage::createMethodCall(
         service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    question << service << QStringLiteral("IsStatusNotifierHostRegistered");
-    question.setAutoStartService(false);
+    request << service << QStringLiteral("IsStatusNotifierHostRegistered");
+    request.setAutoStartService(false);
 
     auto* call =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(request), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
         call->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply = *call;

@@ -23,7 +23,7 @@ Q_SIGNALS:
     void stateChanged();
 
 private Q_SLOTS:
-    void query();
+    void queryState();
 
 private:
     void setState(State state);

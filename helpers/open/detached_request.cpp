@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "open/hand_over.h"
+#include "open/detached_request.h"
 
 #include <QDeadlineTimer>
 
@@ -12,50 +12,50 @@ namespace tarnwick {
 
 namespace {
 
-void leaveCaller()
+void detach()
 {
     ::setsid();
-    const int nothing = ::open("/dev/null", O_RDWR);
+    const int devNull = ::open("/dev/null", O_RDWR);
     for (const int channel : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
-        ::dup2(nothing, channel);
+        ::dup2(devNull, channel);
 }
 
-/// What arrives before the other end is closed or the time is over.
-QByteArray readWithin(int descriptor, std::chrono::milliseconds patience)
+/// Reads until the other end is closed or the timeout expires.
+QByteArray readWithTimeout(int descriptor, std::chrono::milliseconds timeout)
 {
     QByteArray text;
-    std::array<char, 512> piece{};
-    const QDeadlineTimer deadline(patience);
+    std::array<char, 512> buffer{};
+    const QDeadlineTimer deadline(timeout);
     pollfd readable{descriptor, POLLIN, 0};
     while (::poll(&readable, 1, static_cast<int>(deadline.remainingTime())) > 0) {
-        const ssize_t count = ::read(descriptor, piece.data(), piece.size());
+        const ssize_t count = ::read(descriptor, buffer.data(), buffer.size());
         if (count <= 0)
             break;
-        text.append(piece.data(), count);
+        text.append(buffer.data(), count);
     }
     return text;
 }
 
 } // namespace
 
-Failure handOver(const std::function<Failure()>& request, std::chrono::milliseconds patience)
+Failure runDetached(const std::function<Failure()>& request, std::chrono::milliseconds timeout)
 {
-    std::array<int, 2> outcome{};
-    if (::pipe2(outcome.data(), O_CLOEXEC) != 0)
+    std::array<int, 2> resultPipe{};
+    if (::pipe2(resultPipe.data(), O_CLOEXEC) != 0)
         return request();
-    const auto [reader, writer] = outcome;
+    const auto [reader, writer] = resultPipe;
     const pid_t child = ::fork();
     if (child < 0)
         return request();
     if (child == 0) {
-        leaveCaller();
+        detach();
         const QByteArray failure = request().value_or(QByteArray());
-        const bool told =
+        const bool written =
             ::write(writer, failure.constData(), static_cast<size_t>(failure.size())) >= 0;
-        ::_exit(told ? 0 : 1);
+        ::_exit(written ? 0 : 1);
     }
     ::close(writer);
-    const QByteArray failure = readWithin(reader, patience);
+    const QByteArray failure = readWithTimeout(reader, timeout);
     return failure.isEmpty() ? std::nullopt : Failure(failure);
 }
 
