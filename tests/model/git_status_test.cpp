@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "model/git_quoting.h"
 #include "model/git_status.h"
 #include "support/test_registry.h"
 
@@ -34,6 +35,8 @@ private Q_SLOTS:
         row("DD is only removed half", header + u" DD\n"_s, u"1~removed"_s);
         row("more blanks after ahead", u"## m [ahead  2]\n"_s, u" 2~ahead"_s);
         row("gone upstream", u"## main...origin/main [gone]\n"_s, {});
+        row("ahead in a name", header + u"?? behind 4 ahead 3 x\n"_s,
+            u"4~behind, 3~ahead, 1~untracked"_s);
         row("conflict", header + u"UU a\nAA b\n"_s, {});
     }
 
@@ -60,6 +63,26 @@ private Q_SLOTS:
     {
         QFETCH(QString, gitStatus);
         QTEST(changedFiles(gitStatus), "expected");
+    }
+
+    void unquotesPaths_data()
+    {
+        const auto row = table<QString, QString>("quoted", "path");
+        row("plain", u"a b.txt"_s, u"a b.txt"_s);
+        row("letters", u"\"\\a\\b\\t\\n\\v\\f\\r\\\"\\\\x\""_s, u"\a\b\t\n\v\f\r\"\\x"_s);
+        row("octal", u"\"d \\303\\251/\\360\\237\\214\\277/\""_s, u"d \u00e9/\U0001f33f/"_s);
+        row("core.quotePath off", u"\"\u00e9 \\\"\""_s, u"\u00e9 \""_s);
+        row("Latin-1", u"\"\\351.txt\""_s, u"\ufffd.txt"_s);
+        for (const auto* malformed : {u"\"a\" -> \"b\"", u"\"", u"\"a", u"a\"", u"\"\\\"",
+                                      u"\"\\12\"", u"\"\\400\"", u"\"\\x\""})
+            row(qPrintable(QString::fromUtf16(malformed)), QString::fromUtf16(malformed),
+                QString::fromUtf16(malformed));
+    }
+
+    void unquotesPaths()
+    {
+        QFETCH(QString, quoted);
+        QTEST(unquotedGitPath(quoted), "path");
     }
 
     void piecesAreTrimmedAndKept()

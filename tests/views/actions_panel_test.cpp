@@ -202,6 +202,179 @@ private:
     QList<QUrl> m_opened;
 };
 
+<<<<<<< HEAD
+=======
+void ActionsPanelTest::showsWhatTheRepositoryHas_data()
+{
+    QTest::addColumn<QStringList>("commands");
+    QTest::addColumn<QString>("links");
+    QTest::addColumn<QString>("expected");
+    const QString openers = u"Show in Finder|Start terminal here|-|"_s;
+    const QString files = u"|-|f1|f2|f3|f4|f5|f6|f7|f8"_s;
+    const QString touch = u"for i in $(seq %1); do touch f$i; done"_s;
+    QTest::newRow("clean, no remote")
+        << QStringList() << QString() << openers + u"Stash|-|add link"_s;
+    QTest::newRow("remote and links")
+        << QStringList{u"git remote add origin git@github.com:o/r.git"_s}
+        << u"http://a @@ One\n\nfile:///b @@ Two\n"_s
+        << openers + u"Open repo on remote|Push|Pull|Stash|-|One|Two|add link"_s;
+    QTest::newRow("no repository, projects")
+        << QStringList{u"rm -rf .git; mkdir A.xcworkspace B.xcodeproj"_s} << QString()
+        << u"B.xcodeproj|A.xcworkspace|-|"_s + openers + u"add link"_s;
+    QTest::newRow("8 files") << QStringList{touch.arg(8)} << QString()
+                             << openers + u"Stash|-|add link"_s + files;
+    QTest::newRow("20 files") << QStringList{touch.arg(u"-w 20"_s)} << QString()
+                              << openers + u"Stash|-|add link|-|f01|f02|f03|f04|f05|f06|f07|f08|"
+                                           "... 12 more"_s;
+}
+
+void ActionsPanelTest::showsWhatTheRepositoryHas()
+{
+    QFETCH(QStringList, commands);
+    QFETCH(QString, links);
+    const TemporaryRepository repository;
+    repository.run(commands);
+    m_bench.store.setObject(links, u"repo-urls"_s);
+    const auto record = m_bench.record(repository.dir());
+    QTRY_VERIFY(!record->isRepo() || (record->gitStatus() && record->branchString()));
+    ActionsView panel(record, {}, m_bench.runner);
+    panel.render();
+    QTEST(shown(panel), "expected");
+    QCOMPARE(panel.width(), 300);
+}
+
+void ActionsPanelTest::followsTheRecordWhileVisible()
+{
+    const TemporaryRepository repository;
+    const auto record = m_bench.record(repository.dir());
+    QTRY_VERIFY(record->gitStatus() && !record->isLoading());
+    ActionsView panel(record, {}, m_bench.runner);
+    panel.render();
+    panel.show();
+    QAbstractButton* const stash = entry(panel, u"Stash"_s);
+    stash->setFocus();
+
+    repository.write(u"new"_s, {});
+    record->refreshStatusInBackground();
+    QTRY_VERIFY(entry(panel, u"new"_s));
+    // An entry that stayed is the same, focus and all.
+    QCOMPARE(entry(panel, u"Stash"_s), stash);
+    QVERIFY(stash->hasFocus());
+
+    QTest::mouseClick(stash, Qt::LeftButton);
+    QTest::mouseDClick(stash, Qt::LeftButton);
+    QTest::mouseRelease(stash, Qt::LeftButton);
+    QCOMPARE(m_bench.terminal.requests.size(), 1);
+    repository.git({u"stash -q -u"_s});
+    QTest::mouseClick(stash, Qt::LeftButton);
+    QTRY_VERIFY(!entry(panel, u"new"_s));
+}
+
+void ActionsPanelTest::opensAddresses()
+{
+    for (const auto* scheme : {"http", "file"})
+        QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), this, "takeUrl");
+    const QTemporaryDir root;
+    QVERIFY(QDir(root.path()).mkpath(u"repo/My App.xcodeproj"_s));
+    m_bench.store.setObject(u"http://localhost/a b @@ Page\nhttp://[bad @@ Bad"_s, u"repo-urls"_s);
+    ActionsView panel(m_bench.record(root.filePath(u"repo"_s)), {}, m_bench.runner);
+    panel.render();
+    entry(panel, u"My App.xcodeproj"_s)->click();
+    entry(panel, u"Page"_s)->click();
+    QCOMPARE(m_opened, (QList<QUrl>{QUrl::fromLocalFile(root.filePath(u"repo/My App.xcodeproj"_s)),
+                                    QUrl(u"http://localhost/a b"_s)}));
+    QVERIFY(stopsProcess([&] { entry(panel, u"Bad"_s)->click(); }));
+    for (const auto* scheme : {"http", "file"})
+        QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
+}
+
+void ActionsPanelTest::changedFilesAreRead_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("read");
+    QTest::addColumn<QColor>("color");
+    const auto row = [](const QString& line, const QString& read, const QColor& color) {
+        QTest::newRow(qPrintable(line)) << line << read << color;
+    };
+    row(u"A  src/main.c"_s, u"main.c|src/main.c|doc.fill"_s, QColor::fromRgbF(0, 0.6F, 0));
+    row(u"D  a/b"_s, u"b|a/b|trash.fill"_s, colors::red(Appearance::Light));
+    row(u" M README"_s, u"README|README|pencil"_s, QColor(0xff, 0xb3, 0));
+    row(u"M  c"_s, u"c|c|tray.full.fill"_s, colors::teal(Appearance::Light));
+    row(u"?? docs/"_s, u"docs|docs/|questionmark.diamond.fill"_s,
+        colors::yellow(Appearance::Light));
+    row(u" D d"_s, u"d|d|trash"_s, colors::indigo(Appearance::Light));
+    row(u"?? \"d\\303\\251 1/\""_s, u"d\u00e9 1|d\u00e9 1/|questionmark.diamond.fill"_s,
+        colors::yellow(Appearance::Light));
+    row(u"M  \"x/a \\\"b\\\"\""_s, u"a \"b\"|x/a \"b\"|tray.full.fill"_s,
+        colors::teal(Appearance::Light));
+    row(u"MM top"_s, u"MM top|top|"_s, {});
+    row(u"R  old -> new/name"_s, u"name|old -> new/name|"_s, {});
+}
+
+void ActionsPanelTest::changedFilesAreRead()
+{
+    QFETCH(QString, line);
+    const FileLineEntry entry = fileLineEntry(line, Appearance::Light);
+    QTEST(QStringList({entry.title, entry.path, entry.symbol}).join(u'|'), "read");
+    QTEST(entry.color.value_or(QColor()), "color");
+}
+
+void ActionsPanelTest::entriesAreLaidOutToThePoint_data()
+{
+    QTest::addColumn<bool>("small");
+    QTest::addColumn<int>("iconLeft");
+    QTest::addColumn<int>("iconSide");
+    QTest::addColumn<int>("titleLeft");
+    QTest::newRow("normal") << false << 26 << 20 << 26 + 20 + 8;
+    QTest::newRow("small") << true << 30 << 12 << 30 + 12 + 8 + 6;
+}
+
+void ActionsPanelTest::entriesAreLaidOutToThePoint()
+{
+    QFETCH(bool, small);
+    const QString text = u"a title that is far too long for one line of this entry"_s;
+    CButtonView oneLine({.small = small, .title = u"x"_s});
+    CButtonView blank({.small = small, .title = u"x"_s, .sub = QString()});
+    QVERIFY(blank.heightForWidth(300) > oneLine.heightForWidth(300));
+    QCOMPARE(oneLine.minimumSize(), QSize(200, 26));
+
+    CButtonView entry({.small = small, .title = text, .sub = text});
+    entry.resize(300, entry.heightForWidth(300));
+    entry.show();
+    const QRect icon = entry.findChild<EntryImageView*>()->geometry();
+    QTEST(icon.left(), "iconLeft");
+    QTEST(icon.width(), "iconSide");
+    const auto texts = entry.findChildren<TextLine*>();
+    QTEST(texts[0]->x(), "titleLeft");
+    QCOMPARE(texts[1]->x(), 54);
+    for (const TextLine* const line : texts)
+        QVERIFY(line->height() >= line->heightForWidth(line->width()) &&
+                line->geometry().right() <= 300 - 26);
+}
+
+void ActionsPanelTest::offersInstalledApplications()
+{
+    const QTemporaryDir root;
+    for (const auto* application :
+         {"system/B.app", "system/Both.app", "user/Both.app", "user/Sublime Text.app"})
+        QVERIFY(QDir(root.path()).mkpath(QString::fromLatin1(application)));
+    for (const auto* name : {"Sublime Text.app", "Both.app", "Gone.app", "app.app"})
+        m_bench.store.setBool(true, u"showinapps___"_s + QString::fromLatin1(name));
+    m_bench.store.setBool(false, u"showinapps___B.app"_s);
+    const PlainApplicationFolder system(root.filePath(u"system/"_s));
+    const PlainApplicationFolder user(root.filePath(u"user/"_s));
+
+    QStringList offered;
+    const auto entries = loadAppEntries(m_bench.store, system, user);
+    for (const AppEntry& entry : entries)
+        offered += entry.title + u'|' + entry.name;
+    QCOMPARE(offered, (QStringList{u"Both|Both.app"_s, u"Sublime Text|Sublime Text.app"_s}));
+    ActionsView panel(m_bench.record(u"/nonexistent/plain"_s), entries, m_bench.runner);
+    panel.render();
+    QVERIFY(shown(panel).contains(u"here|Open in Both|Open in Sublime Text|-|"));
+}
+
+>>>>>>> 35ca0d5 (Show and open the paths that git quotes)
 TARNWICK_TEST(ActionsPanelTest)
 
 #include "actions_panel_test.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "views/panel/file_line_entry.h"
 
+#include "model/git_quoting.h"
 #include "views/colors.h"
 
 #include <QStringList>
@@ -32,8 +33,9 @@ constexpr std::array changeKinds{
 
 } // namespace
 
-FileLineEntry fileLineEntry(const QString& line, Appearance appearance)
+FileLineEntry fileLineEntry(const QString& quotedLine, Appearance appearance)
 {
+    const QString line = quotedLine.left(codeLength) + unquotedGitPath(quotedLine.mid(codeLength));
     const QString name = line.endsWith(u'/') ? line.chopped(1) : line;
     FileLineEntry entry{name.split(u'/').constLast(), line.mid(codeLength), {}, {}};
     const auto* const kind = std::ranges::find_if(
