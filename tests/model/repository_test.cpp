@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "model/git_quoting.h"
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 #include "support/workbench.h"
+
+#include <QDateTime>
+#include <QThread>
 
 using namespace tarnwick::test;
 
@@ -68,10 +72,8 @@ private Q_SLOTS:
         repository.run(
             {u"git clone -q --bare . ../up.git; git remote add origin ../up.git"_s,
              u"git fetch -q; git branch -q -u origin/main; git config color.status always"_s,
-             u"git config color.ui always; git commit -q --allow-empty -m x; echo x >> a"_s});
+             u"git config color.ui always; git config status.aheadBehind false; git commit -q --allow-empty -m x; echo x >> a"_s});
         const std::pair<const char*, const char*> environment[]{
-            {"LANG", "de_DE.UTF-8"},
-            {"LANGUAGE", "de:fr"},
             {"GIT_DIR", "/nonexistent/.git"},
             {"GIT_WORK_TREE", "/"},
             {"GIT_INDEX_FILE", "/nonexistent/index"},
@@ -85,15 +87,50 @@ private Q_SLOTS:
         }
     }
 
+    void keepsTheIndexAsItIs()
+    {
+        const TemporaryRepository repository;
+        repository.run({u"touch -d 2001-01-01 a"_s}); // git would note the new time in the index
+        const QFileInfo index(repository.dir() + u"/.git/index"_s);
+        const QDateTime written = index.fileTime(QFile::FileMetadataChangeTime);
+        QCOMPARE(loadedText(*m_bench.record(repository.dir())), u"main: clean"_s);
+        QCOMPARE(QFileInfo(index.filePath()).fileTime(QFile::FileMetadataChangeTime), written);
+    }
+
+    void undecodableStatusIsPublishedOnTheMainThread()
+    {
+        const TemporaryRepository repository;
+        const QString git = repository.beside(u"git"_s);
+        writeFile(git, "#!/bin/sh\nprintf '\\377'\n");
+        QVERIFY(QFile::setPermissions(git, QFile::ReadOwner | QFile::ExeOwner));
+        const CommandRunner runner{{.git = git}};
+        const auto record = RepoViewModel::create(
+            repository.dir(), nullptr, {runner, m_bench.queue, m_bench.terminal, m_bench.store});
+        int published = 0;
+        for (const auto signal :
+             {&RepoViewModel::isLoadingChanged, &RepoViewModel::statusStringChanged})
+            connect(
+                record.get(), signal, record.get(),
+                [&] { published += QThread::currentThread() == thread(); }, Qt::DirectConnection);
+        QTRY_COMPARE(published, 3);
+        refreshAll({record});
+        QTRY_COMPARE(published, 6);
+        QCOMPARE(record->gitStatus(), u"1?"_s);
+    }
+
     void handlesSpecialCharactersInPaths()
     {
         const TemporaryRepository repository(u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_s);
-        repository.write(u"A M \u00e9.txt"_s, "new");
+        const QStringList names{u"A M \u00e9"_s, u" \"q\" \\"_s, u"line\nfeed\t"_s,
+                                u"\U0001f33f/x"_s};
+        for (const QString& name : names)
+            repository.write(name, "new");
         const auto odd = m_bench.record(repository.dir());
         QCOMPARE(odd->name(), u"it's \"my\" r\u00e9p\u00f4 \U0001f33f"_s);
-        QCOMPARE(loadedText(*odd), u"main: 1 change, 1 untracked"_s);
-        // Git quotes such a name.
-        QCOMPARE(odd->changedFiles(), QStringList{u"?? \"A M \\303\\251.txt\""_s});
+        QCOMPARE(loadedText(*odd), u"main: 1 change, 4 untracked"_s);
+        for (const QString& line : odd->changedFiles())
+            QVERIFY2(QFile::exists(repository.dir() + u'/' + unquotedGitPath(line.mid(3))),
+                     qPrintable(line));
         QCOMPARE(m_bench.record(u"/nonexistent/"_s)->name(), QString());
     }
 
@@ -118,11 +155,15 @@ private Q_SLOTS:
         QCOMPARE(loadedText(*watched), u"main: clean"_s);
         QVERIFY(watched->isMainBranch());
 
-        repository.run({u"git checkout -q -b Main; touch n"_s});
+        for (const auto& branch : {u"master"_s, u"develop"_s, u"Main"_s}) {
+            repository.run({u"git checkout -q -b "_s + branch});
+            watched->refreshBranch();
+            QTRY_COMPARE(watched->branchString(), branch);
+            QCOMPARE(watched->isMainBranch(), branch != u"Main");
+        }
+        repository.run({u"touch n"_s});
         refreshAll({watched});
         QTRY_COMPARE(watched->statusString(), u"1\u00a0untracked"_s);
-        QTRY_COMPARE(watched->branchString(), u"Main"_s);
-        QVERIFY(!watched->isMainBranch());
         QCOMPARE(loading, (QStringList{u"on"_s, u"off"_s, u"on"_s, u"off"_s}));
 
         repository.run({u"rm -rf .git"_s});
