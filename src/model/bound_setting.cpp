@@ -18,8 +18,7 @@ BoundSetting::BoundSetting(PreferencesStore& store, BoolPreference preference, Q
 
 bool BoundSetting::value() const
 {
-    const QVariant stored = m_store.dictionaryRepresentation().value(m_preference.key);
-    return stored.typeId() == QMetaType::Bool ? stored.toBool() : m_preference.fallback;
+    return m_store.boolForKey(m_preference.key, m_preference.fallback);
 }
 
 void BoundSetting::setValue(bool value)

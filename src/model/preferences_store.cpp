@@ -6,6 +6,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QMutexLocker>
 #include <QStandardPaths>
@@ -13,6 +14,18 @@
 namespace tarnwick {
 
 namespace {
+
+constexpr qint64 maxFileSize = 16 * 1024 * 1024;
+
+std::optional<QByteArray> readFile(const QFileInfo& info)
+{
+    // Opening a pipe would block, and a device may never end.
+    QFile file(info.filePath());
+    if (!info.isFile() || info.size() > maxFileSize || !file.open(QIODevice::ReadOnly))
+        return {};
+    QByteArray bytes = file.read(maxFileSize);
+    return file.error() == QFile::NoError ? std::optional(std::move(bytes)) : std::nullopt;
+}
 
 /// Moves a file out of the way under a name that nothing else has.
 bool setAside(const QString& filePath)
@@ -46,10 +59,10 @@ QString PreferencesStore::defaultFilePath()
            QStringLiteral("/tarnwick/preferences.json");
 }
 
-bool PreferencesStore::boolForKey(const QString& key) const
+bool PreferencesStore::boolForKey(const QString& key, bool fallback) const
 {
     const QMutexLocker lock(&m_valuesMutex);
-    return m_values.value(key).toBool(false);
+    return m_values.value(key).toBool(fallback);
 }
 
 void PreferencesStore::setBool(bool value, const QString& key)
@@ -96,23 +109,22 @@ void PreferencesStore::synchronize()
 
 void PreferencesStore::load()
 {
-    QFile file(m_filePath);
-    if (!file.exists())
+    const QFileInfo info(m_filePath);
+    if (!info.exists() && !info.isSymLink())
         return;
-    if (file.open(QIODevice::ReadOnly)) {
-        const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
-        if (document.isObject()) {
-            m_values = document.object();
-            return;
-        }
-        file.close();
+    const auto bytes = readFile(info);
+    const QJsonDocument document = QJsonDocument::fromJson(bytes.value_or(QByteArray()));
+    if (document.isObject()) {
+        m_values = document.object();
+        return;
     }
-    m_isWritable = setAside(m_filePath);
-    writeDiagnosticLine(m_filePath +
+    m_isWritable = bytes && setAside(m_filePath);
+    const QString problem = bytes ? QStringLiteral(" is no preferences file and ")
+                                  : QStringLiteral(" cannot be read and ");
+    writeDiagnosticLine(m_filePath + problem +
                         (m_isWritable
-                             ? QStringLiteral(" is no preferences file and was set aside")
-                             : QStringLiteral(" is no preferences file and is left alone; nothing "
-                                              "will be remembered")));
+                             ? QStringLiteral("was set aside")
+                             : QStringLiteral("is left alone; nothing will be remembered")));
 }
 
 void PreferencesStore::write(const QString& key, const QJsonValue& value)

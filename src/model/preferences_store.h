@@ -23,15 +23,17 @@ class PreferencesStore : public QObject
     Q_OBJECT
 
 public:
-    /// Reads the file. One that holds no JSON object is set aside beside it under another name,
-    /// and the store starts empty; where even that fails, nothing is ever written.
+    /// Reads the file. One that holds no JSON object is renamed beside it, and the store starts
+    /// empty. What cannot be read (another owner's file, a link to nowhere, a device, more than
+    /// 16 MiB) or renamed is left alone: the store starts empty, and nothing is ever written.
+    /// A diagnostic line tells about either.
     explicit PreferencesStore(QString filePath, QObject* parent = nullptr);
     ~PreferencesStore() override;
 
     /// Where this user's preferences live.
     [[nodiscard]] static QString defaultFilePath();
 
-    [[nodiscard]] bool boolForKey(const QString& key) const;
+    [[nodiscard]] bool boolForKey(const QString& key, bool fallback = false) const;
     void setBool(bool value, const QString& key);
     [[nodiscard]] std::optional<QString> stringForKey(const QString& key) const;
     void setObject(const QString& value, const QString& key);

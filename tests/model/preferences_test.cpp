@@ -9,6 +9,8 @@
 #include <QJsonObject>
 #include <QSignalSpy>
 
+#include <sys/resource.h>
+
 using namespace tarnwick::test;
 
 class PreferencesTest : public QObject
@@ -85,6 +87,41 @@ private Q_SLOTS:
         QVERIFY(PreferencesStore(m_path).boolForKey(u"onyIcons"_s));
     }
 
+    void leavesAloneWhatItCannotRead_data()
+    {
+        const auto row = table<QString, QString>("name", "command");
+        const QString name = u"p"_s;
+        row("link to nowhere", name, u"ln -s nowhere p"_s);
+        row("pipe", name, u"mkfifo p"_s);
+        row("device", name, u"ln -s /dev/null p"_s);
+        row("folder", name, u"mkdir p"_s);
+        row("too large", name, u"truncate -s 17M p"_s);
+        row("unreadable", name, u"ln -s /proc/self/mem p"_s);
+        row("not openable", name, u"echo {} > p"_s);
+        row("not renamable", QString(240, u'p'), u"touch "_s + QString(240, u'p'));
+    }
+
+    void leavesAloneWhatItCannotRead()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, command);
+        QCOMPARE(shell(command + u"; ls -Ali > ../before"_s), 0);
+        {
+            rlimit files{};
+            QCOMPARE(::getrlimit(RLIMIT_NOFILE, &files), 0);
+            // Permissions do not stop a test that runs as root.
+            const rlimit none{0, files.rlim_max};
+            if (QTest::currentDataTag() == "not openable"_ba)
+                QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
+            PreferencesStore store(m_folder->filePath(u"sub/"_s + name));
+            QCOMPARE(::setrlimit(RLIMIT_NOFILE, &files), 0);
+            store.setBool(true, u"onyIcons"_s);
+            store.synchronize();
+            QVERIFY(store.boolForKey(u"onyIcons"_s));
+        }
+        QCOMPARE(shell(u"ls -Ali | diff - ../before"_s), 0);
+    }
+
     void listIsLoadedAsStored_data()
     {
         const auto row = table<QString, QStringList>("stored", "loaded");
@@ -135,6 +172,14 @@ private Q_SLOTS:
     }
 
 private:
+    /// The exit status of a command run in the folder of the preferences.
+    [[nodiscard]] int shell(const QString& command) const
+    {
+        const QString folder = QFileInfo(m_path).path();
+        return QDir().mkpath(folder)
+                   ? QProcess::execute(u"/bin/sh"_s, {u"-c"_s, u"cd \"$0\"; "_s + command, folder})
+                   : -1;
+    }
     [[nodiscard]] RepoManager manager(PreferencesStore& store)
     {
         return {store, m_bench.services(), [] { return std::make_shared<NoDelegate>(); }};
