@@ -5,6 +5,7 @@
 #include "model/git_environment.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QProcess>
 #include <QStringDecoder>
 
@@ -81,9 +82,14 @@ void CommandRunner::runOpen(const QStringList& arguments) const
     open.waitForFinished(noTimeout);
 }
 
+QString absolutePath(const QString& path)
+{
+    return path.isEmpty() ? path : QDir::current().absoluteFilePath(path);
+}
+
 void revealInFinder(const QString& path, const CommandRunner& runner)
 {
-    runner.runOpen({QStringLiteral("--reveal"), path});
+    runner.runOpen({QStringLiteral("--reveal"), absolutePath(path)});
 }
 
 } // namespace tarnwick

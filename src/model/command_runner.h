@@ -49,6 +49,10 @@ private:
     Programs m_programs;
 };
 
+/// `path` for programs that may run in another working directory. Only a relative path is changed;
+/// an empty one stays empty.
+[[nodiscard]] QString absolutePath(const QString& path);
+
 /// Blocks until the file manager has been asked to show the file or folder, selected.
 void revealInFinder(const QString& path, const CommandRunner& runner);
 

@@ -122,27 +122,27 @@ QStringList RepoViewModel::changedFiles() const
 
 void RepoViewModel::push() const
 {
-    m_services.terminal.open(terminalRequest(m_dir, QStringLiteral("push")));
+    m_services.terminal.open(terminalRequest(absolutePath(m_dir), QStringLiteral("push")));
 }
 
 void RepoViewModel::pull() const
 {
-    m_services.terminal.open(terminalRequest(m_dir, QStringLiteral("pull")));
+    m_services.terminal.open(terminalRequest(absolutePath(m_dir), QStringLiteral("pull")));
 }
 
 void RepoViewModel::stash() const
 {
-    m_services.terminal.open(terminalRequest(m_dir, QStringLiteral("stash")));
+    m_services.terminal.open(terminalRequest(absolutePath(m_dir), QStringLiteral("stash")));
 }
 
 void RepoViewModel::startTerminal() const
 {
-    m_services.terminal.open(terminalRequest(m_dir, {}));
+    m_services.terminal.open(terminalRequest(absolutePath(m_dir), {}));
 }
 
 void RepoViewModel::openInApp(const QString& name) const
 {
-    m_services.runner.runOpen({QStringLiteral("-a"), name, m_dir});
+    m_services.runner.runOpen({QStringLiteral("-a"), name, absolutePath(m_dir)});
 }
 
 QList<RepoViewModel::PP> RepoViewModel::projectFiles() const

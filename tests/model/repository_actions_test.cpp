@@ -93,6 +93,26 @@ private Q_SLOTS:
         QCOMPARE(commands, (QStringList{u"git push"_s, u"git pull"_s, u"git stash"_s, {}}));
     }
 
+    void relativePathsAreHandedOutAbsolute()
+    {
+        const QTemporaryDir folder;
+        const QString script = folder.filePath(u"open"_s);
+        writeFile(script, "#!/bin/sh\necho \"$*\" >> \"$0.log\"\n");
+        QVERIFY(QFile::setPermissions(script, QFile::ReadOwner | QFile::ExeOwner));
+        const CommandRunner runner{{.open = script}};
+        const auto record = RepoViewModel::create(
+            u"some/repo"_s, nullptr, {runner, m_bench.queue, m_bench.terminal, m_bench.store});
+        const QString path = QDir::currentPath() + u"/some/repo"_s;
+        record->push();
+        QCOMPARE(m_bench.terminal.requests.last().dir, path);
+        record->openInApp(u"Editor"_s);
+        revealInFinder(record->dir() + u"/docs/"_s, runner);
+        QFile log(script + u".log"_s);
+        QVERIFY(log.open(QFile::ReadOnly));
+        QCOMPARE(QString::fromUtf8(log.readAll()),
+                 u"-a Editor %1\n--reveal %1/docs/\n"_s.arg(path));
+    }
+
     void findsProjectsOnTwoLevels()
     {
         const QTemporaryDir root;
