@@ -12,12 +12,16 @@
 
 #include <QApplication>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
 int main(int argc, char* argv[])
 {
     using namespace tarnwick;
+
+    // Output may be piped to a program that ends. QProcess gives children the default back.
+    std::signal(SIGPIPE, SIG_IGN);
 
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tarnwick"));

@@ -53,6 +53,7 @@ void LoginE2eTest::loginStartsOneCopy()
 
     QProcess first;
     first.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
+    first.closeReadChannel(QProcess::StandardOutput); // it outlives whoever reads its output
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(entry), 10000);
     first.terminate();
     QVERIFY(first.waitForFinished());

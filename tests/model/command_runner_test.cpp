@@ -6,8 +6,12 @@
 #include "support/test_registry.h"
 #include "support/workbench.h"
 
+#include <QElapsedTimer>
 #include <QSemaphore>
 #include <QThread>
+
+#include <csignal>
+#include <optional>
 
 using namespace tarnwick::test;
 
@@ -45,17 +49,29 @@ private Q_SLOTS:
         row("more than a pipe holds on both channels",
             u"head -c 300000 /dev/zero | tr '\\0' e >&2; head -c 300000 /dev/zero | tr '\\0' o"_s,
             QString(300000, u'o'));
+        row("environment",
+            u"echo $LC_ALL $GIT_TERMINAL_PROMPT [$GIT_ASKPASS$SSH_ASKPASS] $SSH_ASKPASS_REQUIRE;"
+            "printf '%s ' $GIT_CONFIG_COUNT $GIT_CONFIG_KEY_0 $GIT_CONFIG_VALUE_0 $GIT_CONFIG_KEY_3"_s,
+            u"C 0 [] force\n4 alias.mine log credential.interactive "_s);
+        row("default signals",
+            u"grep -q '^SigIgn:.*[13579bdf]...$' /proc/self/status || echo SIGPIPE kills"_s,
+            u"SIGPIPE kills\n"_s);
         row("died of a signal", u"echo so far; kill -KILL $$"_s, u"so far\n"_s);
     }
 
     void deliversOnTheMainThread()
     {
         QFETCH(QString, script);
+        qputenv("GIT_CONFIG_COUNT", "1");
+        qputenv("GIT_CONFIG_KEY_0", "alias.mine");
+        qputenv("GIT_CONFIG_VALUE_0", "log");
+        std::signal(SIGPIPE, SIG_IGN);
         Delivery delivery;
         m_bench.queue.post([&] { m_shell.runGit({u"-c"_s, script}, m_record, into(delivery)); });
         QTRY_COMPARE(delivery.count, 1);
         QCOMPARE(delivery.thread, QThread::currentThread());
         QTEST(delivery.output, "expected");
+        qunsetenv("GIT_CONFIG_COUNT");
     }
 
     void undecodableOutputCompletesOnTheCallingThread()
@@ -84,6 +100,18 @@ private Q_SLOTS:
         QCOMPARE(delivery.count, 0);
     }
 
+    void keepsTheRecordUntilItsCompletion()
+    {
+        auto record = m_bench.record(u"/nonexistent"_s);
+        const std::weak_ptr<RepoViewModel> watched = record;
+        std::optional<bool> wasAlive;
+        m_shell.runGit({u"-c"_s, u"true"_s}, std::exchange(record, nullptr),
+                       [&](const QString&, RepoViewModel&) { wasAlive = !watched.expired(); });
+        QTRY_VERIFY(wasAlive);
+        QVERIFY(*wasAlive);
+        QVERIFY(watched.expired());
+    }
+
     void waitsForOpen()
     {
         const QTemporaryDir dir;
@@ -103,6 +131,23 @@ private Q_SLOTS:
         m_bench.queue.post([&ran] { ran = true; });
         QTRY_VERIFY_WITH_TIMEOUT(ran, 15000);
         hung.release(threads);
+    }
+
+    void hangingJobsDoNotBlockTheEnd()
+    {
+        const auto hung = std::make_shared<QSemaphore>();
+        QSemaphore started;
+        auto queue = std::make_unique<BackgroundQueue>();
+        queue->post([hung, &started] {
+            started.release();
+            static_cast<void>(hung->tryAcquire(1, 20000));
+        });
+        started.acquire();
+        QElapsedTimer timer;
+        timer.start();
+        queue.reset();
+        QVERIFY(timer.elapsed() < 10000);
+        hung->release();
     }
 
     void stops_data()

@@ -4,6 +4,8 @@
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 
+#include <csignal>
+
 using namespace tarnwick::test;
 
 class TerminalTest : public QObject
@@ -70,6 +72,24 @@ private Q_SLOTS:
         QVERIFY(text.contains("/gone") &&
                 text.endsWith("[shell in " + m_root.path().toUtf8() + ']'));
         QVERIFY(!QFile::exists(m_root.filePath(u"proof"_s)));
+    }
+
+    void windowStartsInTheFolderWithDefaultSignals()
+    {
+        writeFile(
+            m_root.filePath(u"bin/xdg-terminal-exec"_s),
+            "#!/bin/sh\ngrep -q '^SigIgn:.*[13579bdf]...$' /proc/self/status && echo bad > bad\n"
+            "echo \"$@\" > new; mv new record\n");
+        QFile::setPermissions(m_root.filePath(u"bin/xdg-terminal-exec"_s),
+                              QFile::ReadOwner | QFile::ExeOwner);
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", m_root.filePath(u"bin:"_s).toUtf8() + path);
+        std::signal(SIGPIPE, SIG_IGN);
+        FreedesktopTerminalLauncher().open(
+            {.dir = m_root.path(), .command = {u"true"_s}, .appleScript = {}});
+        qputenv("PATH", path);
+        QTRY_VERIFY(QFile::exists(m_root.filePath(u"record"_s)));
+        QVERIFY(!QFile::exists(m_root.filePath(u"bad"_s)));
     }
 
 private:
