@@ -4,7 +4,7 @@
 #include <QByteArray>
 
 #include <cstdio>
-#include <exception>
+#include <cstdlib>
 
 namespace tarnwick {
 
@@ -18,7 +18,7 @@ void writeDiagnosticLine(const QString& line)
 
 void stopProcess()
 {
-    std::terminate();
+    std::abort(); // std::terminate() prints a message
 }
 
 } // namespace tarnwick
