@@ -11,7 +11,8 @@ namespace tarnwick {
 
 /// One of the two places that hold installed applications: the system's, or the user's own. An
 /// application goes by its file name in that place, which ends in ".app" ("Text Editor.app").
-/// Read anew at every call; main thread only.
+/// Answers may date from any earlier call in the same turn of the event loop, so that a caller can
+/// ask for many names. Main thread only.
 class ApplicationFolder
 {
 public:

@@ -44,10 +44,6 @@ void searchIconsOfApplications()
         withDataFolders(QIcon::fallbackSearchPaths(), QStringLiteral("pixmaps")));
 }
 
-FreedesktopApplicationFolder::FreedesktopApplicationFolder(DesktopEntryPlace place)
-    : m_place(place)
-{}
-
 QString FreedesktopApplicationFolder::path() const
 {
     const QStringList folders = desktopEntryFolders(m_place);

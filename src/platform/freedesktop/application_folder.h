@@ -9,12 +9,14 @@
 
 namespace tarnwick {
 
-/// The desktop entries of a place as if they were files of one folder. What has been read serves
-/// until the event loop turns: a menu asks for hundreds of names at a time.
+/// The desktop entries of a place as if they were files of one folder. They are read once in a turn
+/// of the event loop: a menu asks for hundreds of names at a time.
 class FreedesktopApplicationFolder : public ApplicationFolder
 {
 public:
-    explicit FreedesktopApplicationFolder(DesktopEntryPlace place);
+    explicit FreedesktopApplicationFolder(DesktopEntryPlace place)
+        : m_place(place)
+    {}
 
     [[nodiscard]] QString path() const override;
     [[nodiscard]] std::optional<QStringList> entries() const override;
