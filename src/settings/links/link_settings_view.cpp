@@ -8,7 +8,9 @@
 #include "settings/save_button.h"
 #include "settings/settings_host.h"
 #include "views/colors.h"
+#include "views/text_line.h"
 
+#include <QAccessibleWidget>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -37,6 +39,7 @@ public:
         : QLabel(text, parent)
     {
         setTextFormat(Qt::PlainText);
+        setWordWrap(true);
         updateColor();
     }
 
@@ -60,17 +63,50 @@ private:
     }
 };
 
-QLabel* newHeading(const QString& text, QWidget* parent)
+/// Bold text that is broken inside words, too: the name of a repository may have no spaces.
+class Heading : public TextLine
 {
-    auto* const heading = new QLabel(text, parent);
-    heading->setTextFormat(Qt::PlainText);
-    heading->setWordWrap(true);
-    QFont font = heading->font();
-    font.setPixelSize(headingSize);
-    font.setBold(true);
-    heading->setFont(font);
-    return heading;
-}
+public:
+    Heading(const QString& text, QWidget* parent)
+        : TextLine(parent)
+    {
+        QAccessible::installFactory(createAccessible);
+        QFont bold = font();
+        bold.setPixelSize(headingSize);
+        bold.setBold(true);
+        setFont(bold);
+        setSegments({{text, labelColor(palette())}});
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::PaletteChange)
+            setSegments({{text(), labelColor(palette())}});
+        TextLine::changeEvent(event);
+    }
+
+private:
+    static QAccessibleInterface* createAccessible(const QString& /*className*/, QObject* object)
+    {
+        auto* const heading = dynamic_cast<Heading*>(object);
+        return heading ? new QAccessibleWidget(heading, QAccessible::Heading) : nullptr;
+    }
+};
+
+class LinkEditor : public QPlainTextEdit
+{
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+protected:
+    void insertFromMimeData(const QMimeData* source) override
+    {
+        // QPlainTextEdit 6.4 crashes on data without formats, such as that of an empty clipboard.
+        if (canInsertFromMimeData(source))
+            QPlainTextEdit::insertFromMimeData(source);
+    }
+};
 
 /// Unlike QTextDocument::toPlainText(), keeps no-break spaces.
 QString plainText(const QTextDocument& document)
@@ -88,7 +124,7 @@ LinkSettingsView::LinkSettingsView(std::shared_ptr<RepoViewModel> forModel, cons
     , m_forModel(std::move(forModel))
     , m_store(store)
     , m_host(host)
-    , m_editor(new QPlainTextEdit(text, this))
+    , m_editor(new LinkEditor(text, this))
 {
     setFixedWidth(viewWidth);
     createLayout();
@@ -122,7 +158,7 @@ void LinkSettingsView::createLayout()
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, rightMargin, margin);
     column->setSpacing(spacing);
-    column->addWidget(newHeading(tr("Add links for '%1'").arg(m_forModel->name()), this));
+    column->addWidget(new Heading(tr("Add links for '%1'").arg(m_forModel->name()), this));
     for (const QString& line :
          {tr("Copy/Paste with keyboard seems to be broken in Monterey, but you can use the mouse!"),
           tr("Enter the links, one per line, in this format: 'url @@ title'"),
