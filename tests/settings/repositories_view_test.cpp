@@ -70,10 +70,19 @@ private Q_SLOTS:
         const QPointer<ReorderableRow> c = row(2);
         c->setFocus();
         for (int i = 0; i < 3; ++i)
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up, Qt::AltModifier);
+            QTest::keyPress(QApplication::focusWidget(), Qt::Key_Up, Qt::AltModifier);
         QCOMPARE(shown(*m_other), u"c a b b"_s);
+        QCOMPARE(m_fixture->stored().first(), u"/n/a"_s);
+        QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Up, Qt::AltModifier);
         QCOMPARE(m_fixture->stored().first(), u"/n/c"_s);
         QCOMPARE(QApplication::focusWidget(), c);
+        QTest::keyPress(QApplication::focusWidget(), Qt::Key_End, Qt::AltModifier);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Home);
+        QCOMPARE(QApplication::focusWidget(), row(0));
+        QCOMPARE(m_fixture->stored().at(2), u"/n/c"_s);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown);
+        QCOMPARE(QApplication::focusWidget(), row(3));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
         QCOMPARE(QApplication::focusWidget(), row(1));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);

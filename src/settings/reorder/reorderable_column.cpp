@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/reorder/reorderable_column.h"
 
+#include "settings/list_navigation.h"
 #include "settings/reorder/reorderable_row.h"
 #include "settings/reorder/row_drop_target.h"
 #include "settings/reorder/row_stack.h"
@@ -66,21 +67,36 @@ ReorderableRow* ReorderableColumn::rowAt(int y) const
     return m_stack->rowAt(m_stack->mapFrom(viewport(), QPoint(0, y)).y());
 }
 
+void ReorderableColumn::hideEvent(QHideEvent* event)
+{
+    dropMovedRow();
+    QScrollArea::hideEvent(event);
+}
+
 void ReorderableColumn::keyPressEvent(QKeyEvent* event)
 {
-    const int last = static_cast<int>(m_stack->rows().size()) - 1;
+    const int count = static_cast<int>(m_stack->rows().size());
     const int focused = m_stack->indexOf(window()->focusWidget());
-    if (focused < 0 || (event->key() != Qt::Key_Up && event->key() != Qt::Key_Down)) {
+    const auto target =
+        focused < 0 ? std::nullopt
+                    : rowAfterKey(event->key(), focused, count,
+                                  viewport()->height() / m_stack->rowRect(focused).height());
+    if (!target)
         QScrollArea::keyPressEvent(event);
-        return;
-    }
-    const int next = std::clamp(focused + (event->key() == Qt::Key_Up ? -1 : 1), 0, last);
-    if (next == focused)
-        return;
-    if ((event->modifiers() & Qt::AltModifier) != 0)
-        moveRow(focused, next);
-    else
-        focusRow(next);
+    else if (*target != focused && (event->modifiers() & Qt::AltModifier) != 0)
+        moveRow(focused, *target);
+    else if (*target != focused)
+        focusRow(*target);
+}
+
+void ReorderableColumn::keyReleaseEvent(QKeyEvent* event)
+{
+    // While Alt is held, further moves may follow.
+    const bool isAltReleased =
+        event->key() == Qt::Key_Alt || (event->modifiers() & Qt::AltModifier) == 0;
+    if (isAltReleased && !event->isAutoRepeat())
+        dropMovedRow();
+    QScrollArea::keyReleaseEvent(event);
 }
 
 void ReorderableColumn::mousePressEvent(QMouseEvent* event)
@@ -106,6 +122,7 @@ void ReorderableColumn::mouseReleaseEvent(QMouseEvent* /*event*/)
 
 void ReorderableColumn::startDrag(ReorderableRow& row, QPoint hotSpot)
 {
+    dropMovedRow();
     auto* const drag = new QDrag(this);
     // A running drag must survive that its window is closed.
     drag->setParent(nullptr);
@@ -126,15 +143,25 @@ void ReorderableColumn::startDrag(ReorderableRow& row, QPoint hotSpot)
 void ReorderableColumn::moveRow(int from, int to)
 {
     const auto& rows = m_stack->rows();
-    const ReorderableRow& row = *rows[static_cast<std::size_t>(from)];
+    ReorderableRow& row = *rows[static_cast<std::size_t>(from)];
     const auto delegate = rows[static_cast<std::size_t>(to)]->dropDelegate();
     if (!row.dragSource() || !delegate)
         return;
     row.dragSource()();
     delegate->dropEntered();
-    delegate->performDrop();
+    m_movedRow = &row;
     Q_EMIT dragStateChanged();
     scrollToRow(to);
+}
+
+void ReorderableColumn::dropMovedRow()
+{
+    const QPointer<ReorderableRow> row = std::exchange(m_movedRow, nullptr);
+    const auto delegate = row ? row->dropDelegate() : nullptr;
+    if (!delegate)
+        return;
+    delegate->performDrop();
+    Q_EMIT dragStateChanged();
 }
 
 void ReorderableColumn::focusRow(int index)
@@ -164,6 +191,8 @@ void ReorderableColumn::setCurrentRow(ReorderableRow* row)
 
 void ReorderableColumn::focusChanged(QWidget* focus)
 {
+    if (focus != m_movedRow)
+        dropMovedRow();
     for (; focus && focus != m_stack; focus = focus->parentWidget()) {
         if (focus->parentWidget() == m_stack && focus != m_currentRow)
             setCurrentRow(qobject_cast<ReorderableRow*>(focus));

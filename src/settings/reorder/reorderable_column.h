@@ -11,9 +11,9 @@ namespace tarnwick {
 class ReorderableRow;
 class RowStack;
 
-/// A scrolling column of rows that can be moved: by dragging, or with Alt and the arrow keys. The
-/// arrow keys alone move the focus. It calls the rows' drag sources and drop delegates, which make
-/// the moves.
+/// A scrolling column of rows that can be moved: by dragging, or with Alt and the navigation keys,
+/// which without Alt move the focus. It calls the rows' drag sources and drop delegates, which make
+/// the moves. A row moved with keys is dropped when they are released, or when it loses the focus.
 class ReorderableColumn : public QScrollArea
 {
     Q_OBJECT
@@ -34,7 +34,9 @@ Q_SIGNALS:
     void dragStateChanged();
 
 protected:
+    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -42,6 +44,7 @@ protected:
 private:
     void startDrag(ReorderableRow& row, QPoint hotSpot);
     void moveRow(int from, int to);
+    void dropMovedRow();
     void focusRow(int index);
     void setCurrentRow(ReorderableRow* row);
     void focusChanged(QWidget* focus);
@@ -50,6 +53,8 @@ private:
     RowStack* const m_stack;
     QPointer<ReorderableRow> m_currentRow;
     QPointer<ReorderableRow> m_pressedRow;
+    /// The row that is being moved with keys.
+    QPointer<ReorderableRow> m_movedRow;
     QPoint m_pressPosition;
     bool m_isDragging = false;
 };

@@ -5,11 +5,14 @@
 #include "model/preference_keys.h"
 #include "model/preferences_store.h"
 #include "settings/grey_frame.h"
+#include "settings/list_navigation.h"
 #include "settings/window/app_list.h"
 #include "settings/window/elided_text.h"
 #include "views/app_icon.h"
 
+#include <QAbstractButton>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
 
@@ -26,6 +29,31 @@ constexpr int rowSpacing = 2;
 constexpr int iconFrameSize = 30;
 constexpr int iconSize = 24;
 constexpr int iconSpacing = 8;
+
+/// Scrolls rows with one button each, between which the navigation keys move the focus.
+class ButtonList : public QScrollArea
+{
+public:
+    using QScrollArea::QScrollArea;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const auto buttons = widget()->findChildren<QAbstractButton*>();
+        const auto focused = buttons.indexOf(focusWidget());
+        const auto target = focused < 0
+                                ? std::nullopt
+                                : rowAfterKey(event->key(), static_cast<int>(focused),
+                                              static_cast<int>(buttons.size()),
+                                              viewport()->height() / (iconFrameSize + rowSpacing));
+        if (!target) {
+            QScrollArea::keyPressEvent(event);
+            return;
+        }
+        buttons[*target]->setFocus(Qt::TabFocusReason);
+        ensureWidgetVisible(buttons[*target]);
+    }
+};
 
 /// Loads its icon when it is first painted, because most rows of a long list never are.
 class LazyIcon : public QWidget
@@ -59,7 +87,7 @@ ApplicationsView::ApplicationsView(const AppList& vm, PreferencesStore& store,
                                    QWidget* parent)
     : QWidget(parent)
 {
-    auto* const scrollArea = new QScrollArea(this);
+    auto* const scrollArea = new ButtonList(this);
     scrollArea->setFrameShape(QFrame::NoFrame);
     scrollArea->setWidgetResizable(true);
     scrollArea->setFocusPolicy(Qt::NoFocus);
