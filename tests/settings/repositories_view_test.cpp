@@ -46,6 +46,7 @@ private Q_SLOTS:
             path->setText(QString::fromUtf16(text));
             QTest::keyClick(path, Qt::Key_Return);
             add->click();
+            QTRY_VERIFY(add->isEnabled());
             QCOMPARE(path->text(), QString::fromUtf16(text));
         }
         QCOMPARE(m_fixture->stored().join(u','), u",, ~/x ,/n/a,/n/b,/n/c,/n/b"_s);
@@ -89,6 +90,27 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget(), row(1)->findChild<QToolButton*>());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), m_view->findChild<QLineEdit*>());
+    }
+
+    void clickWhileBusyDoesNothing()
+    {
+        const auto* const remove = row(1)->findChild<QToolButton*>();
+        const QPointF place = remove->mapTo(m_view.get(), remove->rect().center());
+        const auto postClick = [this, place] {
+            for (const auto& [type, buttons] : {std::pair(QEvent::MouseButtonPress, Qt::LeftButton),
+                                                {QEvent::MouseButtonRelease, Qt::NoButton}})
+                QApplication::postEvent(m_view->windowHandle(),
+                                        new QMouseEvent(type, place, m_view->mapToGlobal(place),
+                                                        Qt::LeftButton, buttons, {}));
+        };
+        auto* const add = m_view->findChildren<QPushButton*>().first();
+        connect(&m_fixture->mgr, &RepoManager::modelsChanged, m_column, postClick);
+        add->click();
+        QTRY_VERIFY(add->isEnabled());
+        QVERIFY(!m_view->findChild<QMessageBox*>());
+        QTRY_COMPARE(row(1)->geometry().top(), row(0)->geometry().bottom() + 1);
+        postClick();
+        QTRY_VERIFY(m_view->findChild<QMessageBox*>());
     }
 
     void dropStoresDraggedOrder()

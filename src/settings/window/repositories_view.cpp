@@ -13,7 +13,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <QWindow>
 
+#include <chrono>
 #include <utility>
 
 namespace tarnwick {
@@ -22,6 +24,8 @@ namespace {
 
 constexpr int margin = 20;
 constexpr int spacing = 10;
+/// Enough for the event loop to deliver the input that was queued while it was blocked.
+constexpr std::chrono::milliseconds inputQueueTime(30);
 
 /// A record as a list item. Records of the same directory are equal.
 struct RepositoryItem
@@ -69,6 +73,8 @@ RepositoriesView::RepositoriesView(RepoManager& mgr, SettingsHost& host, QWidget
     m_path->setPlaceholderText(tr("Example: /Users/yourname/path/to/your/repo"));
     m_path->setAccessibleName(tr("Path of a repository"));
     connect(m_add, &QPushButton::clicked, this, &RepositoriesView::addRepository);
+    m_busyEnd.setSingleShot(true);
+    connect(&m_busyEnd, &QTimer::timeout, this, &RepositoriesView::endBusy);
 
     auto* const editor = new QHBoxLayout;
     editor->setSpacing(spacing);
@@ -143,17 +149,34 @@ void RepositoriesView::removePressedRepository()
 
 void RepositoriesView::runBusy(const std::function<void()>& change)
 {
-    const bool hadFocus = m_add->hasFocus();
+    if (QWindow* const nativeWindow = window()->windowHandle())
+        nativeWindow->installEventFilter(this);
+    m_addHadFocus = m_addHadFocus || m_add->hasFocus();
     QApplication::setOverrideCursor(Qt::WaitCursor);
     // Disabling a button that has the focus would move the focus to the next widget.
     m_add->clearFocus();
     m_add->setEnabled(false);
     window()->repaint();
     change();
-    m_add->setEnabled(true);
-    if (hadFocus)
-        m_add->setFocus();
     QApplication::restoreOverrideCursor();
+    m_busyEnd.start(inputQueueTime);
+}
+
+void RepositoriesView::endBusy()
+{
+    if (QWindow* const nativeWindow = window()->windowHandle())
+        nativeWindow->removeEventFilter(this);
+    m_add->setEnabled(true);
+    if (std::exchange(m_addHadFocus, false) && !window()->focusWidget())
+        m_add->setFocus();
+}
+
+bool RepositoriesView::eventFilter(QObject* /*watched*/, QEvent* event)
+{
+    // A late click would hit whatever stands there by then, such as another row's button.
+    return event->type() == QEvent::MouseButtonPress ||
+           event->type() == QEvent::MouseButtonDblClick ||
+           event->type() == QEvent::MouseButtonRelease;
 }
 
 } // namespace tarnwick

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -17,7 +18,8 @@ class RepoViewModel;
 class SettingsHost;
 
 /// The tab "Repositories", which edits the repository list. It follows changes made elsewhere, and
-/// saves its own at once. Saving blocks for two git runs per repository, with a wait cursor.
+/// saves its own at once. Saving blocks for two git runs per repository, with a wait cursor; mouse
+/// clicks in that time are discarded.
 class RepositoriesView : public QWidget
 {
     Q_OBJECT
@@ -30,10 +32,14 @@ public:
     void addRepository();
     void confirmRemoval(std::shared_ptr<RepoViewModel> record);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     [[nodiscard]] ReorderableColumn* newList();
     void removePressedRepository();
     void runBusy(const std::function<void()>& change);
+    void endBusy();
 
     RepoManager& m_mgr;
     SettingsHost& m_host;
@@ -44,6 +50,8 @@ private:
     QPushButton* const m_add;
     /// The record whose removal is being confirmed.
     std::shared_ptr<RepoViewModel> m_pressedRepoViewModel;
+    QTimer m_busyEnd;
+    bool m_addHadFocus = false;
 };
 
 } // namespace tarnwick
