@@ -54,7 +54,8 @@ private Q_SLOTS:
         QVERIFY(!buttonNamed(*other, launch)->isChecked());
         f.bench.store.setBool(false, u"launchOnStartup"_s);
         buttonNamed(*other, launch)->click();
-        QCOMPARE(f.host.logins, (QList<bool>{false, true}));
+        // Each window with its own toggle.
+        QCOMPARE(f.host.logins, (QList<bool>{false, false, true, true}));
         QCOMPARE(f.host.rebuilds, 0);
     }
 

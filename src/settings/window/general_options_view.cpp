@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/window/general_options_view.h"
 
-#include "settings/window/launch_at_login_follower.h"
+#include "settings/settings_host.h"
 
 #include <QCheckBox>
 #include <QVBoxLayout>
@@ -21,20 +21,22 @@ GeneralOptionsView::GeneralOptionsView(PreferencesStore& store, SettingsHost& ho
     , m_refreshOnMenuOpen(store, preferences::refreshOnMenuOpen)
     , m_showCleanRepoStatus(store, preferences::showCleanRepoStatus)
     , m_onlyIcons(store, preferences::onlyIcons)
-    , m_launchAtLogin(LaunchAtLoginFollower::shared(store, host))
 {
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(spacing);
     column->setAlignment(Qt::AlignTop | Qt::AlignLeading);
-    column->addWidget(newCheckBox(tr("Launch on startup"), m_launchOnStartup));
+    auto* const launchOnStartup = newCheckBox(tr("Launch on startup"), m_launchOnStartup);
+    connect(launchOnStartup, &QCheckBox::toggled, this,
+            [&host](bool isChecked) { host.setLaunchAtLogin(isChecked); });
+    column->addWidget(launchOnStartup);
     column->addWidget(newCheckBox(tr("Use only icons in repo statuses"), m_onlyIcons));
     column->addWidget(
         newCheckBox(tr("Refresh repos automatically when menu is opened"), m_refreshOnMenuOpen));
     column->addWidget(newCheckBox(tr("Show clean repo status"), m_showCleanRepoStatus));
 }
 
-QWidget* GeneralOptionsView::newCheckBox(const QString& text, BoundSetting& setting)
+QCheckBox* GeneralOptionsView::newCheckBox(const QString& text, BoundSetting& setting)
 {
     auto* const box = new QCheckBox(text, this);
     box->setChecked(setting.value());

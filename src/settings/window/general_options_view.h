@@ -5,11 +5,10 @@
 
 #include <QWidget>
 
-#include <memory>
+class QCheckBox;
 
 namespace tarnwick {
 
-class LaunchAtLoginFollower;
 class SettingsHost;
 
 /// The tab "Settings": four check boxes bound to their preferences. A click is stored at once, and
@@ -22,13 +21,12 @@ public:
     GeneralOptionsView(PreferencesStore& store, SettingsHost& host, QWidget* parent = nullptr);
 
 private:
-    [[nodiscard]] QWidget* newCheckBox(const QString& text, BoundSetting& setting);
+    [[nodiscard]] QCheckBox* newCheckBox(const QString& text, BoundSetting& setting);
 
     BoundSetting m_launchOnStartup;
     BoundSetting m_refreshOnMenuOpen;
     BoundSetting m_showCleanRepoStatus;
     BoundSetting m_onlyIcons;
-    const std::shared_ptr<LaunchAtLoginFollower> m_launchAtLogin;
 };
 
 } // namespace tarnwick
