@@ -40,7 +40,7 @@ struct SettingsFixture
     RecordingHost host;
     RepoManager mgr{bench.store, bench.services(), [] { return std::make_shared<NoDelegate>(); }};
     BundleInfo bundle{
-        {{u"CFBundleVersion"_s, u"42"_s}, {u"CFBundleShortVersionString"_s, u"1.2"_s}}};
+        {{u"CFBundleVersion"_s, u"4\u202e2"_s}, {u"CFBundleShortVersionString"_s, u"1.2"_s}}};
     PlainApplicationFolder system{bench.folder.filePath(u"system/"_s)};
     PlainApplicationFolder user{bench.folder.filePath(u"user/"_s)};
 };

@@ -15,18 +15,12 @@ QString plainTextToolTip(const QString& text)
     return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped());
 }
 
-ElidedText::ElidedText(QString text, Color color, QWidget* parent)
-    : QWidget(parent)
-    , m_text(std::move(text))
+ElidedText::ElidedText(const QString& text, Color color, QWidget* parent)
+    : QLabel(text, parent)
     , m_color(color)
 {
+    setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    setAccessibleName(m_text);
-}
-
-QSize ElidedText::sizeHint() const
-{
-    return {fontMetrics().horizontalAdvance(m_text), fontMetrics().height()};
 }
 
 QSize ElidedText::minimumSizeHint() const
@@ -40,7 +34,7 @@ void ElidedText::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(m_color == Color::Label ? labelColor(palette())
                                            : secondaryLabelColor(palette()));
     painter.drawText(rect(), Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine,
-                     fontMetrics().elidedText(m_text, Qt::ElideMiddle, width()));
+                     fontMetrics().elidedText(text(), Qt::ElideMiddle, width()));
 }
 
 ElidedCheckBox::ElidedCheckBox(QString text, QWidget* parent)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QLabel>
 
 namespace tarnwick {
 
@@ -10,23 +11,21 @@ namespace tarnwick {
 
 /// One line of plain text, elided in the middle if it is too long, in a colour of the widget's
 /// current palette.
-class ElidedText : public QWidget
+class ElidedText : public QLabel
 {
     Q_OBJECT
 
 public:
     enum class Color { Label, SecondaryLabel };
 
-    ElidedText(QString text, Color color, QWidget* parent = nullptr);
+    ElidedText(const QString& text, Color color, QWidget* parent = nullptr);
 
-    [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    const QString m_text;
     const Color m_color;
 };
 

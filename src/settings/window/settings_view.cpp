@@ -13,6 +13,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <optional>
 
 namespace tarnwick {
@@ -25,8 +26,6 @@ constexpr int spacingBelowHeader = 20;
 constexpr int spacingAboveButtons = 12;
 
 constexpr int headerHeight = 60;
-/// The header's content is taller than the header, and extends by this much above and below it.
-constexpr int headerOverflow = 10;
 constexpr int symbolSize = 24;
 constexpr int versionSize = 12;
 constexpr int spacingBelowSymbol = 10;
@@ -47,7 +46,6 @@ QLabel* newCenteredLabel(const QString& text, QFont font, std::optional<int> pix
 QWidget* newHeader(const QString& version, QWidget* parent)
 {
     auto* const header = new QWidget(parent);
-    header->setFixedHeight(headerHeight + 2 * headerOverflow);
     const QFont font = header->font();
     auto* const symbol =
         newCenteredLabel(symbolNamed(u"hammer.fill"), withSymbols(font), symbolSize, header);
@@ -79,10 +77,17 @@ SettingsView::SettingsView(RepoManager& mgr, PreferencesStore& store, SettingsHo
     , m_vm(system, user)
 {
     setFixedSize(viewSize, viewSize);
+    auto* const header =
+        newHeader(printableText(bundle.requiredText(QStringLiteral("CFBundleVersion"))), this);
+    // Content taller than the header extends into the space above and below it.
+    const int headerOverflow =
+        std::clamp((header->sizeHint().height() - headerHeight + 1) / 2, 0, margin);
+    header->setFixedHeight(headerHeight + 2 * headerOverflow);
+
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin - headerOverflow, margin, margin);
     column->setSpacing(0);
-    column->addWidget(newHeader(bundle.requiredText(QStringLiteral("CFBundleVersion")), this));
+    column->addWidget(header);
     column->addSpacing(spacingBelowHeader - headerOverflow);
 
     const QIcon icon = symbolIcon(symbolNamed(u"tray.and.arrow.down.fill"));
