@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/content_window.h"
 
-#include <QLayout>
 #include <QMainWindow>
 
 namespace tarnwick {
@@ -19,8 +18,11 @@ void showInWindow(std::unique_ptr<QWidget> content, const QString& title)
 {
     // A main window, because assistive technology takes a plain widget for a part of one.
     auto window = std::make_unique<QMainWindow>();
+    // It takes over the minimum size of its content, but not the maximum size.
+    window->setMaximumSize(content->maximumSize());
+    window->setWindowFlag(Qt::WindowMaximizeButtonHint,
+                          content->maximumSize() == QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     window->setCentralWidget(content.release());
-    window->layout()->setSizeConstraint(QLayout::SetMinAndMaxSize);
     showWindow(std::move(window), title);
 }
 

@@ -13,7 +13,7 @@ namespace tarnwick {
 /// closed.
 void showWindow(std::unique_ptr<QWidget> window, const QString& title);
 
-/// The same for what is no window by itself, in a window that takes its size.
+/// The same for a widget that is no window by itself, in a window with the widget's size limits.
 void showInWindow(std::unique_ptr<QWidget> content, const QString& title);
 
 } // namespace tarnwick
