@@ -11,6 +11,7 @@
 #include "shell/menu/status_menu_accessible.h"
 
 #include <QApplication>
+#include <QIcon>
 
 #include <csignal>
 #include <cstdio>
@@ -26,6 +27,7 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tarnwick"));
     QApplication::setDesktopFileName(QStringLiteral("org.tarnwick.Tarnwick"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/org.tarnwick.Tarnwick.svg")));
     // The program lives in the status bar: closing a window is never the end of it.
     QApplication::setQuitOnLastWindowClosed(false);
 

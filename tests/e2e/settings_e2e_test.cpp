@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "e2e/desktop.h"
+#include "support/table.h"
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 
@@ -97,6 +98,38 @@ private Q_SLOTS:
         QVERIFY(openPanel(u"repo"_s));
         QVERIFY(!accessibleNamed(u"Open in XTerm"_s).name.isEmpty());
         xdotool({u"key"_s, u"Escape"_s, u"Escape"_s});
+    }
+
+    void windowHasContentSizeAndIcon_data()
+    {
+        const auto row = table<QString, QSize, QSize>("title", "requested", "expected");
+        row("nothing may grow", u"Settings"_s, {900, 800}, {600, 600});
+        row("the height may grow", u"Add links"_s, {1000, 800}, {900, 800});
+    }
+
+    void windowHasContentSizeAndIcon()
+    {
+        QFETCH(QString, title);
+        QFETCH(QSize, requested);
+        const TemporaryRepository repository;
+        const RunningProgram program({{u"repos"_s, repository.dir()}});
+        QVERIFY(title == u"Settings" ? openMenu() : openPanel(u"repo"_s));
+        QVERIFY(clickNamed(title == u"Settings" ? title : u"add link"_s));
+        QVERIFY(windowIsActive(title));
+        xdotool({u"getactivewindow"_s, u"windowsize"_s, QString::number(requested.width()),
+                 QString::number(requested.height())});
+        const QRect before = appeared(title).area;
+        QTEST(before.size(), "expected");
+        // The window manager would maximise it.
+        const QPoint titleBar = before.topLeft() + QPoint(before.width() / 2, -12);
+        click(titleBar);
+        click(titleBar);
+        QCOMPARE(appeared(title).area, before);
+
+        QProcess xprop;
+        xprop.start(u"xprop"_s, {u"-name"_s, title, u"_NET_WM_ICON"_s});
+        QVERIFY(xprop.waitForFinished());
+        QVERIFY(xprop.readAll().contains("Icon (64 x 64)"));
     }
 
 private:
