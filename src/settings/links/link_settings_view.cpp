@@ -181,6 +181,8 @@ void LinkSettingsView::createLayout()
     buttons->addStretch(1);
     buttons->addWidget(save);
     column->addLayout(buttons);
+    // Minimum sizes alone do not take wrapped lines into account.
+    setMinimumHeight(column->minimumHeightForWidth(viewWidth));
 }
 
 } // namespace tarnwick

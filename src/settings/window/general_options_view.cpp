@@ -4,6 +4,8 @@
 #include "settings/settings_host.h"
 
 #include <QCheckBox>
+#include <QResizeEvent>
+#include <QTextLayout>
 #include <QVBoxLayout>
 
 namespace tarnwick {
@@ -12,6 +14,20 @@ namespace {
 
 constexpr int margin = 20;
 constexpr int spacing = 10;
+
+/// The text with line breaks where it would be wider than `width`.
+QString wrapped(const QString& text, const QFont& font, int width)
+{
+    QStringList lines;
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        lines += text.mid(line.textStart(), line.textLength()).trimmed();
+    }
+    layout.endLayout();
+    return lines.join(u'\n');
+}
 
 } // namespace
 
@@ -39,6 +55,7 @@ GeneralOptionsView::GeneralOptionsView(PreferencesStore& store, SettingsHost& ho
 QCheckBox* GeneralOptionsView::newCheckBox(const QString& text, BoundSetting& setting)
 {
     auto* const box = new QCheckBox(text, this);
+    box->setAccessibleName(text);
     box->setChecked(setting.value());
     connect(&setting, &BoundSetting::valueChanged, box, &QCheckBox::setChecked);
     connect(box, &QCheckBox::toggled, &setting, [&setting](bool isChecked) {
@@ -47,6 +64,17 @@ QCheckBox* GeneralOptionsView::newCheckBox(const QString& text, BoundSetting& se
             setting.setValue(isChecked);
     });
     return box;
+}
+
+void GeneralOptionsView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    for (QCheckBox* const box : findChildren<QCheckBox*>()) {
+        const int textWidth = box->fontMetrics().size(0, box->text()).width();
+        const int indicatorWidth = box->sizeHint().width() - textWidth;
+        box->setText(wrapped(box->accessibleName(), box->font(),
+                             event->size().width() - 2 * margin - indicatorWidth));
+    }
 }
 
 } // namespace tarnwick

@@ -20,6 +20,9 @@ class GeneralOptionsView : public QWidget
 public:
     GeneralOptionsView(PreferencesStore& store, SettingsHost& host, QWidget* parent = nullptr);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     [[nodiscard]] QCheckBox* newCheckBox(const QString& text, BoundSetting& setting);
 

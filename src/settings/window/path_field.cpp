@@ -9,12 +9,16 @@
 #include <QDir>
 #include <QFileSystemModel>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionFrame>
 
 namespace tarnwick {
 
 namespace {
 
 constexpr int textMargin = 3;
+/// The margin that QLineEdit adds to those that are set.
+constexpr int builtInMargin = 2;
 
 } // namespace
 
@@ -24,6 +28,10 @@ PathField::PathField(QWidget* parent)
     setTextMargins(textMargin, 0, textMargin, 0);
     // Otherwise a row dropped here would insert the text of its drag.
     setAcceptDrops(false);
+    // paintEvent() draws the placeholder instead.
+    QPalette own = palette();
+    own.setColor(QPalette::PlaceholderText, Qt::transparent);
+    setPalette(own);
 }
 
 bool PathField::eventFilter(QObject* watched, QEvent* event)
@@ -55,6 +63,27 @@ void PathField::focusInEvent(QFocusEvent* event)
         newCompleter->popup()->installEventFilter(this);
     }
     QLineEdit::focusInEvent(event);
+}
+
+void PathField::paintEvent(QPaintEvent* event)
+{
+    QLineEdit::paintEvent(event);
+    if (!text().isEmpty())
+        return;
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const QRect area = style()
+                           ->subElementRect(QStyle::SE_LineEditContents, &option, this)
+                           .marginsRemoved(textMargins())
+                           .adjusted(builtInMargin, 0, -builtInMargin, 0);
+    QFont fitting = font();
+    const int width = fontMetrics().horizontalAdvance(placeholderText());
+    if (width > area.width())
+        fitting.setPixelSize(QFontInfo(fitting).pixelSize() * area.width() / width);
+    QPainter painter(this);
+    painter.setFont(fitting);
+    painter.setPen(QGuiApplication::palette().color(QPalette::PlaceholderText));
+    painter.drawText(area, Qt::AlignLeading | Qt::AlignVCenter, placeholderText());
 }
 
 } // namespace tarnwick

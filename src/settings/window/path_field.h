@@ -6,7 +6,7 @@
 namespace tarnwick {
 
 /// A line edit for the path of a folder that offers completions. It never changes the text by
-/// itself.
+/// itself. A placeholder that is too long is shown in a smaller font.
 class PathField : public QLineEdit
 {
     Q_OBJECT
@@ -17,6 +17,7 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 };
 
 } // namespace tarnwick

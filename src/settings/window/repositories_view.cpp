@@ -24,6 +24,7 @@ namespace {
 
 constexpr int margin = 20;
 constexpr int spacing = 10;
+constexpr int buttonPadding = 8;
 /// Enough for the event loop to deliver the input that was queued while it was blocked.
 constexpr std::chrono::milliseconds inputQueueTime(30);
 
@@ -73,6 +74,7 @@ RepositoriesView::RepositoriesView(RepoManager& mgr, SettingsHost& host, QWidget
     m_path->setPlaceholderText(tr("Example: /Users/yourname/path/to/your/repo"));
     m_path->setAccessibleName(tr("Path of a repository"));
     connect(m_add, &QPushButton::clicked, this, &RepositoriesView::addRepository);
+    m_add->setMinimumWidth(m_add->sizeHint().width() + 2 * buttonPadding);
     m_busyEnd.setSingleShot(true);
     connect(&m_busyEnd, &QTimer::timeout, this, &RepositoriesView::endBusy);
 
