@@ -69,8 +69,11 @@ private:
     }
     [[nodiscard]] std::unique_ptr<StandardUpdaterController> stoppedUpdater()
     {
-        const UpdateSettings settings{QUrl(u"https://localhost/"_s), "key", u"7"_s, {}};
-        auto controller = std::make_unique<StandardUpdaterController>(settings, false);
+        const BundleInfo info({{u"CFBundleVersion"_s, u"7"_s},
+                               {u"SUFeedURL"_s, u"https://localhost/"_s},
+                               {u"SUPublicEDKey"_s, u"key"_s}});
+        auto controller = std::make_unique<StandardUpdaterController>(
+            updateSettings(info, m_bench.runner), false);
         m_updater = &controller->updater();
         return controller;
     }

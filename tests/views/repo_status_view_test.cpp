@@ -124,14 +124,20 @@ private Q_SLOTS:
         const TemporaryRepository repository;
         repository.run({u"touch new"_s});
         const auto row = shownRow(repository.dir());
-        QTRY_VERIFY(m_record->gitStatus());
+        QTRY_VERIFY(m_record->statusString());
         row->setLayoutDirection(direction);
         row->setFont(QFont(QString(), points)); // while it is shown
         layOut(*row);
 
-        const auto lines = row->findChildren<TextLine*>();
-        const QRect name(lines[0]->mapTo(row.get(), QPoint()), lines[0]->size());
-        const QRect summary = lines[3]->geometry();
+        const auto areaOfText = [&row](const QString& text) {
+            for (const auto* const line : row->findChildren<TextLine*>()) {
+                if (line->text().contains(text))
+                    return QRect(line->mapTo(row.get(), QPoint()), line->size());
+            }
+            return QRect();
+        };
+        const QRect name = areaOfText(u"repo"_s);
+        const QRect summary = areaOfText(u"untracked"_s);
         QVERIFY(std::abs(summary.height() - name.height() * 14 / 13.0) < 3);
         const bool isMirrored = direction == Qt::RightToLeft;
         const QRect spinner = row->findChild<Spinner*>()->geometry();
