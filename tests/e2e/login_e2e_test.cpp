@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "e2e/desktop.h"
+#include "support/temporary_repository.h"
 #include "support/test_registry.h"
 
 #include <QDBusConnection>
@@ -20,6 +21,7 @@ class LoginE2eTest : public QObject
 
 private Q_SLOTS:
     void loginStartsOneCopy();
+    void outlivesTheReaderOfItsOutput();
 
 public Q_SLOTS:
     void note(const QString& name, const QString& object) { m_notes += name + u' ' + object; }
@@ -53,7 +55,6 @@ void LoginE2eTest::loginStartsOneCopy()
 
     QProcess first;
     first.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
-    first.closeReadChannel(QProcess::StandardOutput); // it outlives whoever reads its output
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(entry), 10000);
     first.terminate();
     QVERIFY(first.waitForFinished());
@@ -77,6 +78,27 @@ void LoginE2eTest::loginStartsOneCopy()
     QTRY_VERIFY(!statusItemPosition().isNull());
     ::kill(static_cast<pid_t>(bus.interface()->servicePid(application)), SIGTERM);
     QTRY_COMPARE(copies(), 0);
+}
+
+void LoginE2eTest::outlivesTheReaderOfItsOutput()
+{
+    const QTemporaryDir config;
+    writeFile(config.filePath(u"tarnwick/preferences.json"_s), R"({"repos": "/nonexistent"})");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"XDG_CONFIG_HOME"_s, config.path());
+    // The library of the buses ignores SIGPIPE itself.
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    QProcess reader;
+    program.setStandardOutputProcess(&reader);
+    program.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
+    reader.start(u"true"_s, QStringList());
+    QTRY_VERIFY_WITH_TIMEOUT(QDir(config.filePath(u"autostart"_s)).exists(), 10000);
+    QCOMPARE(program.state(), QProcess::Running);
+    program.terminate();
+    QVERIFY(program.waitForFinished());
 }
 
 TARNWICK_TEST(LoginE2eTest)
