@@ -12,36 +12,33 @@ class LateHostE2eTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void itemAppearsWithTheHost_data();
-    void itemAppearsWithTheHost();
+    void itemAppearsWithTheHost_data()
+    {
+        const auto row = table<QString>("host");
+        row("status notifier host", u"xfce4-panel"_s);
+        row("XEmbed host", u"xembed-tray"_s);
+    }
+
+    void itemAppearsWithTheHost()
+    {
+        QFETCH(QString, host);
+        RunningProgram program;
+        QTRY_COMPARE_WITH_TIMEOUT(program.printedCount(u"No status bar found; waiting for one."_s),
+                                  1, 15000);
+        QVERIFY(statusItemPosition().isNull());
+
+        QProcess panel;
+        panel.start(QStringLiteral(TARNWICK_SCRIPTS "/tray_host.sh"), {host});
+        QVERIFY(openMenu());
+        const QString advice =
+            u"Open the settings (the gear) and add some repositories to get started!"_s;
+        QVERIFY(menuRows().isEmpty());
+        QCOMPARE(accessibleNamed(advice).area.height(), 140);
+        key(u"Escape"_s);
+        panel.terminate();
+        panel.waitForFinished();
+    }
 };
-
-void LateHostE2eTest::itemAppearsWithTheHost_data()
-{
-    QTest::addColumn<QString>("host");
-    QTest::newRow("status notifier host") << u"xfce4-panel"_s;
-    QTest::newRow("XEmbed host") << u"xembed-tray"_s;
-}
-
-void LateHostE2eTest::itemAppearsWithTheHost()
-{
-    QFETCH(QString, host);
-    RunningProgram program;
-    QTRY_COMPARE_WITH_TIMEOUT(program.printedCount(u"No status bar found; waiting for one."_s), 1,
-                              15000);
-    QVERIFY(statusItemPosition().isNull());
-
-    QProcess panel;
-    panel.start(QStringLiteral(TARNWICK_SCRIPTS "/tray_host.sh"), {host});
-    QVERIFY(openMenu());
-    const QString advice =
-        u"Open the settings (the gear) and add some repositories to get started!"_s;
-    QVERIFY(menuRows().isEmpty());
-    QCOMPARE(accessibleNamed(advice).area.height(), 140);
-    key(u"Escape"_s);
-    panel.terminate();
-    panel.waitForFinished();
-}
 
 TARNWICK_TEST(LateHostE2eTest)
 

@@ -20,8 +20,63 @@ class LoginE2eTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void loginStartsOneCopy();
-    void outlivesTheReaderOfItsOutput();
+    void loginStartsOneCopy()
+    {
+        const QString application = u"org.tarnwick.Tarnwick"_s;
+        const QString helper = u"org.tarnwick.TarnwickLauncher"_s;
+        QDBusConnection bus = QDBusConnection::sessionBus();
+        QVERIFY(bus.connect({}, {}, u"org.tarnwick.DistributedNotifications"_s, u"Posted"_s, this,
+                            SLOT(note(QString, QString))));
+        const QString entry =
+            qEnvironmentVariable("XDG_CONFIG_HOME") + u"/autostart/"_s + helper + u".desktop"_s;
+
+        QProcess first;
+        first.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(entry), 10000);
+        first.terminate();
+        QVERIFY(first.waitForFinished());
+
+        QCOMPARE(QProcess::execute(u"gio"_s, {u"launch"_s, entry}), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(m_notes, QStringList{u"killTarnwickLauncher "_s + application},
+                                  10000);
+        QTRY_VERIFY(!runs(helper));
+        QVERIFY(runs(application));
+
+        const QString program =
+            QSettings(entry, QSettings::IniFormat).value(u"Desktop Entry/TryExec"_s).toString();
+        QCOMPARE(QProcess::execute(program), 0); // another login while it runs
+        QProcess second;
+        second.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
+        QVERIFY(second.waitForFinished());
+        QCOMPARE(second.readAllStandardError(), "Tarnwick is already running\n");
+        QCOMPARE(copies(), 1);
+        QCOMPARE(m_notes.size(), 1);
+
+        QTRY_VERIFY(!statusItemPosition().isNull());
+        ::kill(static_cast<pid_t>(bus.interface()->servicePid(application)), SIGTERM);
+        QTRY_COMPARE(copies(), 0);
+    }
+
+    void outlivesTheReaderOfItsOutput()
+    {
+        const QTemporaryDir config;
+        writeFile(config.filePath(u"tarnwick/preferences.json"_s), R"({"repos": "/nonexistent"})");
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"XDG_CONFIG_HOME"_s, config.path());
+        // The library of the buses ignores SIGPIPE itself.
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        QProcess reader;
+        program.setStandardOutputProcess(&reader);
+        program.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
+        reader.start(u"true"_s, QStringList());
+        QTRY_VERIFY_WITH_TIMEOUT(QDir(config.filePath(u"autostart"_s)).exists(), 10000);
+        QCOMPARE(program.state(), QProcess::Running);
+        program.terminate();
+        QVERIFY(program.waitForFinished());
+    }
 
 public Q_SLOTS:
     void note(const QString& name, const QString& object) { m_notes += name + u' ' + object; }
@@ -42,64 +97,6 @@ private:
 
     QStringList m_notes;
 };
-
-void LoginE2eTest::loginStartsOneCopy()
-{
-    const QString application = u"org.tarnwick.Tarnwick"_s;
-    const QString helper = u"org.tarnwick.TarnwickLauncher"_s;
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    QVERIFY(bus.connect({}, {}, u"org.tarnwick.DistributedNotifications"_s, u"Posted"_s, this,
-                        SLOT(note(QString, QString))));
-    const QString entry =
-        qEnvironmentVariable("XDG_CONFIG_HOME") + u"/autostart/"_s + helper + u".desktop"_s;
-
-    QProcess first;
-    first.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(entry), 10000);
-    first.terminate();
-    QVERIFY(first.waitForFinished());
-
-    QCOMPARE(QProcess::execute(u"gio"_s, {u"launch"_s, entry}), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(m_notes, QStringList{u"killTarnwickLauncher "_s + application},
-                              10000);
-    QTRY_VERIFY(!runs(helper));
-    QVERIFY(runs(application));
-
-    const QString program =
-        QSettings(entry, QSettings::IniFormat).value(u"Desktop Entry/TryExec"_s).toString();
-    QCOMPARE(QProcess::execute(program), 0); // another login while it runs
-    QProcess second;
-    second.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
-    QVERIFY(second.waitForFinished());
-    QCOMPARE(second.readAllStandardError(), "Tarnwick is already running\n");
-    QCOMPARE(copies(), 1);
-    QCOMPARE(m_notes.size(), 1);
-
-    QTRY_VERIFY(!statusItemPosition().isNull());
-    ::kill(static_cast<pid_t>(bus.interface()->servicePid(application)), SIGTERM);
-    QTRY_COMPARE(copies(), 0);
-}
-
-void LoginE2eTest::outlivesTheReaderOfItsOutput()
-{
-    const QTemporaryDir config;
-    writeFile(config.filePath(u"tarnwick/preferences.json"_s), R"({"repos": "/nonexistent"})");
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"XDG_CONFIG_HOME"_s, config.path());
-    // The library of the buses ignores SIGPIPE itself.
-    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
-    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
-    QProcess program;
-    program.setProcessEnvironment(environment);
-    QProcess reader;
-    program.setStandardOutputProcess(&reader);
-    program.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
-    reader.start(u"true"_s, QStringList());
-    QTRY_VERIFY_WITH_TIMEOUT(QDir(config.filePath(u"autostart"_s)).exists(), 10000);
-    QCOMPARE(program.state(), QProcess::Running);
-    program.terminate();
-    QVERIFY(program.waitForFinished());
-}
 
 TARNWICK_TEST(LoginE2eTest)
 

@@ -22,166 +22,138 @@ class MenuE2eTest : public QObject
 private Q_SLOTS:
     void cleanup() { key(u"Escape"_s); }
 
-    void rowsFollowTheList();
-    void refreshesWhenOpenedIfWanted_data();
-    void refreshesWhenOpenedIfWanted();
-    void pointerOpensAndSwitchesPanels();
-    void branchClickChangesNothing();
-    void contextMenuRefreshesAll();
-    void hundredRepositoriesScroll();
-    void followsTheDesktopIntoTheDark();
+    void rowsFollowTheList()
+    {
+        const TemporaryRepository dirty(u"dirty it's"_s);
+        dirty.run({u"git checkout -q -b feature/x; touch new; echo x >> a"_s});
+        const TemporaryRepository clean(u"clean"_s);
+        RunningProgram program(
+            {{u"repos"_s,
+              QStringList{dirty.dir(), u"/nonexistent/plain"_s, clean.dir() + u'/'}.join(u'\n')}});
+        QVERIFY(openMenu());
+        QTRY_COMPARE_WITH_TIMEOUT(
+            menuRows(),
+            (QStringList{u"dirty it's, branch feature/x, 1 change, 1 untracked"_s, u"plain"_s,
+                         u"clean, branch main, Repo is clean"_s}),
+            10000);
+        // Directly below the panel, one row under the other, all of it on the screen.
+        const QRect first = accessibleNamed(u"dirty"_s).area;
+        const QRect last = accessibleNamed(u"clean"_s).area;
+        QVERIFY(first.top() > statusItemPosition().y());
+        QVERIFY(first.left() == last.left() && first.bottom() < last.top());
+        QVERIFY(screenshot().rect().contains(first | last));
+        QCOMPARE(program.printedCount(u"nmot repo"_s), 1);
+
+        key(u"Escape"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(menuRows().isEmpty(), 10000);
+    }
+
+    void refreshesWhenOpenedIfWanted_data()
+    {
+        const auto row = table<QJsonValue, QString>("refreshOnMenuOpen", "expected");
+        row("never touched", {}, u"repo, branch main, Repo is clean"_s);
+        row("off", false, u"repo, branch main, Repo is clean"_s);
+        row("on", true, u"repo, branch other, 1 change"_s);
+    }
+
+    void refreshesWhenOpenedIfWanted()
+    {
+        QFETCH(QJsonValue, refreshOnMenuOpen);
+        QFETCH(QString, expected);
+        const TemporaryRepository repository;
+        QJsonObject preferences{{u"repos"_s, repository.dir()}};
+        if (!refreshOnMenuOpen.isNull())
+            preferences.insert(u"refreshOnMenuOpen"_s, refreshOnMenuOpen);
+        RunningProgram program(preferences);
+        QVERIFY(openMenu());
+        QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{u"repo, branch main, Repo is clean"_s},
+                                  10000);
+        key(u"Escape"_s);
+        QTRY_VERIFY(menuRows().isEmpty());
+
+        repository.run({u"git checkout -q -b other; echo x >> a"_s});
+        const qsizetype runsBefore = program.printedCount(statusRun);
+        QVERIFY(openMenu());
+        QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{expected}, 10000);
+        QCOMPARE(program.printedCount(statusRun) - runsBefore, refreshOnMenuOpen.toBool() ? 2 : 0);
+    }
+
+    void pointerOpensAndSwitchesPanels()
+    {
+        const RunningProgram program({{u"repos"_s, u"/none/one\n/none/two\n/none/three"_s}});
+        QVERIFY(openMenu());
+        const QRect one = appeared(u"one"_s).area;
+        const QRect three = accessibleNamed(u"three"_s).area;
+        const auto blank = [](const QRect& row) {
+            return screenshot().pixelColor(row.center() + QPoint(0, 12));
+        };
+        QCOMPARE(blank(one), blank(three));
+        movePointer({one.center()});
+        const QRect panel = appeared(u"Actions for one"_s).area;
+        QVERIFY(!panel.isNull());
+        QVERIFY(blank(one) != blank(three));
+
+        // Across the rows below, straight to the far end of the panel.
+        QList<QPoint> path;
+        for (int i = 1; i <= 12; ++i)
+            path += one.center() + (panel.center() + QPoint(0, 80) - one.center()) * i / 12;
+        movePointer(path);
+        QVERIFY(!appeared(u"Actions for one"_s).name.isEmpty());
+
+        movePointer({three.center()});
+        QVERIFY(!appeared(u"Actions for three"_s).name.isEmpty());
+        QVERIFY(accessibleNamed(u"Actions for one"_s).name.isEmpty());
+        QVERIFY(blank(three) != blank(one));
+    }
+
+    void branchClickChangesNothing()
+    {
+        const TemporaryRepository repository;
+        RunningProgram program({{u"repos"_s, repository.dir()}});
+        QVERIFY(openMenu());
+        const QRect row = accessibleNamed(u"repo, branch main"_s).area;
+        // The second of three lines, behind the symbol.
+        click({row.left() + 50, row.center().y()});
+        QTRY_COMPARE(program.printedCount(u"Open sourcetree?"_s), 1);
+        QVERIFY(!appeared(u"Show in Finder"_s).name.isEmpty());
+        click({row.left() + 51, row.center().y()});
+        QTRY_COMPARE(program.printedCount(u"Open sourcetree?"_s), 2);
+        QVERIFY(!accessibleNamed(u"Show in Finder"_s).name.isEmpty());
+        click({row.left() + 250, row.center().y()});
+        QCOMPARE(menuRows().size(), 1);
+        QCOMPARE(program.printedCount(u"Open sourcetree?"_s), 2);
+    }
+
+    void contextMenuRefreshesAll()
+    {
+        const TemporaryRepository repository;
+        RunningProgram program({{u"repos"_s, repository.dir()}});
+        QTRY_VERIFY_WITH_TIMEOUT(!statusItemPosition().isNull(), 20000);
+        QTRY_COMPARE(program.printedCount(statusRun), 3);
+        // "Refresh all" is the second entry; a menu may take a moment to accept keys.
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                const QImage closed = screenshot();
+                click(statusItemPosition(), 3);
+                static_cast<void>(QTest::qWaitFor([&] { return screenshot() != closed; }, 2000));
+                xdotool({u"key"_s, u"Down"_s, u"Down"_s, u"Return"_s});
+                return QTest::qWaitFor([&] { return program.printedCount(statusRun) == 5; }, 2000);
+            },
+            15000));
+    }
+
+    void followsTheDesktopIntoTheDark()
+    {
+        const TemporaryRepository repository;
+        const RunningProgram program({{u"repos"_s, repository.dir()}});
+        QVERIFY(openMenu());
+        QTRY_VERIFY(showsColor(screenshot(), QColor(0, 0x99, 0)));
+        runScript(u"desktop_theme.sh"_s, {u"dark"_s});
+        QTRY_VERIFY_WITH_TIMEOUT(showsColor(screenshot(), QColor(0x32, 0xd7, 0x4b)), 10000);
+        runScript(u"desktop_theme.sh"_s, {u"light"_s});
+        QTRY_VERIFY_WITH_TIMEOUT(showsColor(screenshot(), QColor(0, 0x99, 0)), 10000);
+    }
 };
-
-void MenuE2eTest::rowsFollowTheList()
-{
-    const TemporaryRepository dirty(u"dirty it's"_s);
-    dirty.run({u"git checkout -q -b feature/x; touch new; echo x >> a"_s});
-    const TemporaryRepository clean(u"clean"_s);
-    RunningProgram program(
-        {{u"repos"_s,
-          QStringList{dirty.dir(), u"/nonexistent/plain"_s, clean.dir() + u'/'}.join(u'\n')}});
-    QVERIFY(openMenu());
-    QTRY_COMPARE_WITH_TIMEOUT(menuRows(),
-                              (QStringList{u"dirty it's, branch feature/x, 1 change, 1 untracked"_s,
-                                           u"plain"_s, u"clean, branch main, Repo is clean"_s}),
-                              10000);
-    // Directly below the panel, one row under the other, all of it on the screen.
-    const QRect first = accessibleNamed(u"dirty"_s).area;
-    const QRect last = accessibleNamed(u"clean"_s).area;
-    QVERIFY(first.top() > statusItemPosition().y());
-    QVERIFY(first.left() == last.left() && first.bottom() < last.top());
-    QVERIFY(screenshot().rect().contains(first | last));
-    QCOMPARE(program.printedCount(u"nmot repo"_s), 1);
-
-    key(u"Escape"_s);
-    QTRY_VERIFY_WITH_TIMEOUT(menuRows().isEmpty(), 10000);
-}
-
-void MenuE2eTest::refreshesWhenOpenedIfWanted_data()
-{
-    QTest::addColumn<QJsonValue>("refreshOnMenuOpen");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("never touched") << QJsonValue() << u"repo, branch main, Repo is clean"_s;
-    QTest::newRow("off") << QJsonValue(false) << u"repo, branch main, Repo is clean"_s;
-    QTest::newRow("on") << QJsonValue(true) << u"repo, branch other, 1 change"_s;
-}
-
-void MenuE2eTest::refreshesWhenOpenedIfWanted()
-{
-    QFETCH(QJsonValue, refreshOnMenuOpen);
-    QFETCH(QString, expected);
-    const TemporaryRepository repository;
-    QJsonObject preferences{{u"repos"_s, repository.dir()}};
-    if (!refreshOnMenuOpen.isNull())
-        preferences.insert(u"refreshOnMenuOpen"_s, refreshOnMenuOpen);
-    RunningProgram program(preferences);
-    QVERIFY(openMenu());
-    QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{u"repo, branch main, Repo is clean"_s},
-                              10000);
-    key(u"Escape"_s);
-    QTRY_VERIFY(menuRows().isEmpty());
-
-    repository.run({u"git checkout -q -b other; echo x >> a"_s});
-    const qsizetype runsBefore = program.printedCount(statusRun);
-    QVERIFY(openMenu());
-    QTRY_COMPARE_WITH_TIMEOUT(menuRows(), QStringList{expected}, 10000);
-    QCOMPARE(program.printedCount(statusRun) - runsBefore, refreshOnMenuOpen.toBool() ? 2 : 0);
-}
-
-void MenuE2eTest::pointerOpensAndSwitchesPanels()
-{
-    const RunningProgram program({{u"repos"_s, u"/none/one\n/none/two\n/none/three"_s}});
-    QVERIFY(openMenu());
-    const QRect one = appeared(u"one"_s).area;
-    const QRect three = accessibleNamed(u"three"_s).area;
-    const auto blank = [](const QRect& row) {
-        return screenshot().pixelColor(row.center() + QPoint(0, 12));
-    };
-    QCOMPARE(blank(one), blank(three));
-    movePointer({one.center()});
-    const QRect panel = appeared(u"Actions for one"_s).area;
-    QVERIFY(!panel.isNull());
-    QVERIFY(blank(one) != blank(three));
-
-    // Across the rows below, straight to the far end of the panel.
-    QList<QPoint> path;
-    for (int i = 1; i <= 12; ++i)
-        path += one.center() + (panel.center() + QPoint(0, 80) - one.center()) * i / 12;
-    movePointer(path);
-    QVERIFY(!appeared(u"Actions for one"_s).name.isEmpty());
-
-    movePointer({three.center()});
-    QVERIFY(!appeared(u"Actions for three"_s).name.isEmpty());
-    QVERIFY(accessibleNamed(u"Actions for one"_s).name.isEmpty());
-    QVERIFY(blank(three) != blank(one));
-}
-
-void MenuE2eTest::branchClickChangesNothing()
-{
-    const TemporaryRepository repository;
-    RunningProgram program({{u"repos"_s, repository.dir()}});
-    QVERIFY(openMenu());
-    const QRect row = accessibleNamed(u"repo, branch main"_s).area;
-    // The second of three lines, behind the symbol.
-    click({row.left() + 50, row.center().y()});
-    QTRY_COMPARE(program.printedCount(u"Open sourcetree?"_s), 1);
-    QVERIFY(!appeared(u"Show in Finder"_s).name.isEmpty());
-    click({row.left() + 51, row.center().y()});
-    QTRY_COMPARE(program.printedCount(u"Open sourcetree?"_s), 2);
-    QVERIFY(!accessibleNamed(u"Show in Finder"_s).name.isEmpty());
-    click({row.left() + 250, row.center().y()});
-    QCOMPARE(menuRows().size(), 1);
-    QCOMPARE(program.printedCount(u"Open sourcetree?"_s), 2);
-}
-
-void MenuE2eTest::contextMenuRefreshesAll()
-{
-    const TemporaryRepository repository;
-    RunningProgram program({{u"repos"_s, repository.dir()}});
-    QTRY_VERIFY_WITH_TIMEOUT(!statusItemPosition().isNull(), 20000);
-    QTRY_COMPARE(program.printedCount(statusRun), 3);
-    // "Refresh all" is the second entry; the menu may take a moment to accept keys.
-    QVERIFY(QTest::qWaitFor(
-        [&] {
-            click(statusItemPosition(), 3);
-            QTest::qWait(500);
-            xdotool({u"key"_s, u"Down"_s, u"Down"_s, u"Return"_s});
-            return QTest::qWaitFor([&] { return program.printedCount(statusRun) == 5; }, 2000);
-        },
-        15000));
-}
-
-void MenuE2eTest::hundredRepositoriesScroll()
-{
-    const TemporaryRepository repository;
-    QStringList dirs;
-    for (int i = 1; i <= 100; ++i)
-        dirs += u"/nonexistent/folder%1"_s.arg(i, 3, 10, QChar(u'0'));
-    dirs.last() = repository.dir();
-    const RunningProgram program({{u"repos"_s, dirs.join(u'\n')}});
-    QVERIFY(openMenu());
-    const QRect first = accessibleNamed(u"folder001"_s).area;
-    QVERIFY(first.width() <= 360);
-    QVERIFY(!screenshot().rect().contains(accessibleNamed(u"repo, "_s).area));
-    xdotool({u"mousemove"_s, QString::number(first.center().x()),
-             QString::number(first.bottom() + 60), u"click"_s, u"--repeat"_s, u"150"_s,
-             u"--delay"_s, u"5"_s, u"5"_s});
-    QTRY_VERIFY_WITH_TIMEOUT(
-        screenshot().rect().contains(accessibleNamed(u"repo, branch main"_s).area), 10000);
-    QCOMPARE(accessibleNamed(u"repo, branch main"_s).area.left(), first.left());
-}
-
-void MenuE2eTest::followsTheDesktopIntoTheDark()
-{
-    const TemporaryRepository repository;
-    const RunningProgram program({{u"repos"_s, repository.dir()}});
-    QVERIFY(openMenu());
-    QTRY_VERIFY(showsColor(screenshot(), QColor(0, 0x99, 0)));
-    runScript(u"desktop_theme.sh"_s, {u"dark"_s});
-    QTRY_VERIFY_WITH_TIMEOUT(showsColor(screenshot(), QColor(0x32, 0xd7, 0x4b)), 10000);
-    runScript(u"desktop_theme.sh"_s, {u"light"_s});
-    QTRY_VERIFY_WITH_TIMEOUT(showsColor(screenshot(), QColor(0, 0x99, 0)), 10000);
-}
 
 TARNWICK_TEST(MenuE2eTest)
 

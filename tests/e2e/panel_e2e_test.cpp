@@ -48,142 +48,103 @@ class PanelE2eTest : public QObject
 private Q_SLOTS:
     void cleanup() { xdotool({u"key"_s, u"Escape"_s, u"Escape"_s}); }
 
-    void entriesReachTheDesktop();
-    void gitRunsInTheTerminal();
-    void promptsAreAnsweredInTheTerminal();
-    void installedApplicationOpensTheRepository();
-    void addedLinkOpensInTheBrowser();
-    void keyboardReachesTheEntries();
-};
+    void entriesReachTheDesktop()
+    {
+        const OutsideWorld world;
+        const TemporaryRepository repository(oddName);
+        publish(repository);
+        repository.run({u"touch f1 f2 f3 f4 f5 f6 f7 f8 f9"_s});
+        const QString dir = repository.dir();
+        RunningProgram program({{u"repos"_s, dir},
+                                {oddName + u"-urls"_s, u"file:///usr @@ Folder"_s},
+                                {u"showinapps___Recorder.app"_s, true}},
+                               world.variables());
+        QVERIFY(openPanel(oddName));
 
-void PanelE2eTest::entriesReachTheDesktop()
-{
-    const OutsideWorld world;
-    const TemporaryRepository repository(oddName);
-    publish(repository);
-    repository.run({u"touch f1 f2 f3 f4 f5 f6 f7 f8 f9"_s});
-    const QString dir = repository.dir();
-    RunningProgram program({{u"repos"_s, dir},
-                            {oddName + u"-urls"_s, u"file:///usr @@ Folder"_s},
-                            {u"showinapps___Recorder.app"_s, true}},
-                           world.variables());
-    QVERIFY(openPanel(oddName));
+        const QList<std::pair<QString, QString>> starts{
+            {u"Open in Recorder"_s, u"<app><--open><%1><--name><Recorder><end>"_s.arg(dir)},
+            {u"Open repo on remote"_s, u"<browser><%1>"_s.arg(address)},
+            {u"Folder"_s, u"<app><--open></usr><--name><Recorder><end>"_s}};
+        for (const auto& [entry, expected] : starts) {
+            const qsizetype before = world.started().size();
+            QVERIFY2(clickNamed(entry), qPrintable(entry));
+            QTRY_COMPARE_WITH_TIMEOUT(world.started().mid(before), QStringList{expected}, 10000);
+        }
+        for (const QString& entry : {u"Show in Finder"_s, u"f3"_s, u"... 1 more"_s})
+            QVERIFY2(clickNamed(entry), qPrintable(entry));
+        QTRY_COMPARE_WITH_TIMEOUT(world.revealed(), (QStringList{dir, dir + u"/f3"_s, dir}), 10000);
 
-    const QList<std::pair<QString, QString>> starts{
-        {u"Open in Recorder"_s, u"<app><--open><%1><--name><Recorder><end>"_s.arg(dir)},
-        {u"Open repo on remote"_s, u"<browser><%1>"_s.arg(address)},
-        {u"Folder"_s, u"<app><--open></usr><--name><Recorder><end>"_s}};
-    for (const auto& [entry, expected] : starts) {
-        const qsizetype before = world.started().size();
-        QVERIFY2(clickNamed(entry), qPrintable(entry));
-        QTRY_COMPARE_WITH_TIMEOUT(world.started().mid(before), QStringList{expected}, 10000);
+        QVERIFY(clickNamed(u"Start terminal here"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(world.started().constLast().startsWith(u"<terminal>"), 10000);
+        QVERIFY(world.started().constLast().endsWith(u"<%1>"_s.arg(dir)));
+        QTRY_COMPARE(world.openTerminals(), 1);
+        QVERIFY(!QFile::exists(dir + u"/pwned"_s) && !QFile::exists(u"pwned"_s));
     }
-    for (const QString& entry : {u"Show in Finder"_s, u"f3"_s, u"... 1 more"_s})
-        QVERIFY2(clickNamed(entry), qPrintable(entry));
-    QTRY_COMPARE_WITH_TIMEOUT(world.revealed(), (QStringList{dir, dir + u"/f3"_s, dir}), 10000);
 
-    QVERIFY(clickNamed(u"Start terminal here"_s));
-    QTRY_VERIFY_WITH_TIMEOUT(world.started().constLast().startsWith(u"<terminal>"), 10000);
-    QVERIFY(world.started().constLast().endsWith(u"<%1>"_s.arg(dir)));
-    QTRY_COMPARE(world.openTerminals(), 1);
-    QVERIFY(!QFile::exists(dir + u"/pwned"_s) && !QFile::exists(u"pwned"_s));
-}
+    void gitRunsInTheTerminal()
+    {
+        const OutsideWorld world;
+        const TemporaryRepository repository(oddName);
+        publish(repository);
+        RunningProgram program({{u"repos"_s, repository.dir()}}, world.variables());
+        QVERIFY(openTerminalBy(u"Push"_s, oddName));
+        QTRY_COMPARE_WITH_TIMEOUT(headOf(repository.beside(u"up.git"_s)), u"ahead"_s, 20000);
 
-void PanelE2eTest::gitRunsInTheTerminal()
-{
-    const OutsideWorld world;
-    const TemporaryRepository repository(oddName);
-    publish(repository);
-    RunningProgram program({{u"repos"_s, repository.dir()}}, world.variables());
-    QVERIFY(openTerminalBy(u"Push"_s, oddName));
-    QTRY_COMPARE_WITH_TIMEOUT(headOf(repository.beside(u"up.git"_s)), u"ahead"_s, 20000);
+        repository.run({u"git clone -q ../up.git ../other; cd ../other"_s,
+                        u"git commit -q --allow-empty -m theirs; git push -q"_s});
+        QVERIFY(openTerminalBy(u"Pull"_s, oddName));
+        QTRY_COMPARE_WITH_TIMEOUT(headOf(repository.dir()), u"theirs"_s, 20000);
 
-    repository.run({u"git clone -q ../up.git ../other; cd ../other"_s,
-                    u"git commit -q --allow-empty -m theirs; git push -q"_s});
-    QVERIFY(openTerminalBy(u"Pull"_s, oddName));
-    QTRY_COMPARE_WITH_TIMEOUT(headOf(repository.dir()), u"theirs"_s, 20000);
+        repository.write(u"a"_s, "changed\n");
+        QVERIFY(openTerminalBy(u"Stash"_s, oddName));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(repository.dir() + u"/.git/refs/stash"_s), 20000);
+        QCOMPARE(world.openTerminals(), 3);
+        QCOMPARE(program.printedCount(u"/usr/bin/git -C %1 status"_s.arg(repository.dir())), 2);
+        for (const auto& [index, command] :
+             {std::pair{0, u"push"_s}, {1, u"pull"_s}, {2, u"stash"_s}})
+            QVERIFY(world.started().value(index).endsWith(
+                u"<%1><git><%2>"_s.arg(repository.dir(), command)));
+    }
 
-    repository.write(u"a"_s, "changed\n");
-    QVERIFY(openTerminalBy(u"Stash"_s, oddName));
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(repository.dir() + u"/.git/refs/stash"_s), 20000);
-    QCOMPARE(world.openTerminals(), 3);
-    QCOMPARE(program.printedCount(u"/usr/bin/git -C %1 status"_s.arg(repository.dir())), 2);
-    for (const auto& [index, command] : {std::pair{0, u"push"_s}, {1, u"pull"_s}, {2, u"stash"_s}})
-        QVERIFY(world.started().value(index).endsWith(
-            u"<%1><git><%2>"_s.arg(repository.dir(), command)));
-}
+    void promptsAreAnsweredInTheTerminal()
+    {
+        const OutsideWorld world;
+        const TemporaryRepository repository;
+        publish(repository);
+        writeFile(repository.dir() + u"/.git/hooks/pre-push"_s,
+                  "#!/bin/sh\nread answer < /dev/tty && [ \"$answer\" = yes ]\n");
+        repository.run({u"chmod +x .git/hooks/pre-push"_s});
+        const RunningProgram program({{u"repos"_s, repository.dir()}}, world.variables());
+        QVERIFY(openTerminalBy(u"Push"_s, u"repo"_s));
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                xdotool({u"type"_s, u"yes\n"_s});
+                return headOf(repository.beside(u"up.git"_s)) == u"ahead";
+            },
+            20000));
+    }
 
-void PanelE2eTest::promptsAreAnsweredInTheTerminal()
-{
-    const OutsideWorld world;
-    const TemporaryRepository repository;
-    publish(repository);
-    writeFile(repository.dir() + u"/.git/hooks/pre-push"_s,
-              "#!/bin/sh\nread answer < /dev/tty && [ \"$answer\" = yes ]\n");
-    repository.run({u"chmod +x .git/hooks/pre-push"_s});
-    const RunningProgram program({{u"repos"_s, repository.dir()}}, world.variables());
-    QVERIFY(openTerminalBy(u"Push"_s, u"repo"_s));
-    QVERIFY(QTest::qWaitFor(
-        [&] {
-            xdotool({u"type"_s, u"yes\n"_s});
-            return headOf(repository.beside(u"up.git"_s)) == u"ahead";
-        },
-        20000));
-}
-
-void PanelE2eTest::installedApplicationOpensTheRepository()
-{
-    const TemporaryRepository repository(u"opened-in-thunar"_s);
-    const RunningProgram program(
-        {{u"repos"_s, repository.dir()}, {u"showinapps___Thunar File Manager.app"_s, true}});
-    QVERIFY(openPanel(u"opened-in-thunar"_s));
-    QVERIFY(clickNamed(u"Open in Thunar File Manager"_s));
-    xdotool(
-        {u"search"_s, u"--sync"_s, u"--onlyvisible"_s, u"--name"_s, u"opened-in-thunar.*Thunar"_s});
-    QProcess::execute(u"thunar"_s, {u"--quit"_s});
-}
-
-void PanelE2eTest::addedLinkOpensInTheBrowser()
-{
-    const OutsideWorld world;
-    const TemporaryRepository repository;
-    RunningProgram program({{u"repos"_s, repository.dir()}}, world.variables());
-    QVERIFY(openPanel(u"repo"_s));
-    QVERIFY(clickNamed(u"add link"_s));
-    QVERIFY(windowIsActive(u"Add links"_s));
-    const QString text = u"http://localhost/board?a=1&b @@ The board"_s;
-    xdotool({u"type"_s, u"--delay"_s, u"2"_s, text});
-    QVERIFY(clickNamed(u"Save and close settings"_s));
-    QTRY_COMPARE_WITH_TIMEOUT(program.preferences().value(u"repo-urls"_s).toString(), text, 10000);
-    QTRY_VERIFY_WITH_TIMEOUT(accessibleNamed(u"Add links"_s).name.isEmpty(), 10000);
-
-    QVERIFY(openPanel(u"repo"_s));
-    QVERIFY(clickNamed(u"The board"_s));
-    QTRY_COMPARE_WITH_TIMEOUT(world.started(),
-                              QStringList{u"<browser><http://localhost/board?a=1&b>"_s}, 10000);
-    QCOMPARE(program.printedCount(u"http://localhost/board?a=1&b"_s), 1);
-}
-
-void PanelE2eTest::keyboardReachesTheEntries()
-{
-    const OutsideWorld world;
-    const TemporaryRepository repository;
-    repository.run({u"mkdir App.xcodeproj"_s});
-    const RunningProgram program({{u"repos"_s, repository.dir()}}, world.variables());
-    QVERIFY(openMenu());
-    QVERIFY(!appeared(u"repo, branch main, Repo is clean"_s).name.isEmpty());
-    // From the last row into its panel, to its first entry and on to the third.
-    xdotool({u"key"_s, u"Up"_s, u"Right"_s});
-    QVERIFY(!appeared(u"Start terminal here"_s).name.isEmpty());
-    key(u"Return"_s);
-    QTRY_COMPARE_WITH_TIMEOUT(
-        world.started(),
-        QStringList{
-            u"<app><--open><%1/App.xcodeproj><--name><Recorder><end>"_s.arg(repository.dir())},
-        10000);
-    xdotool({u"key"_s, u"Down"_s, u"Down"_s, u"Return"_s});
-    QTRY_COMPARE_WITH_TIMEOUT(world.openTerminals(), 1, 10000);
-}
+    void keyboardReachesTheEntries()
+    {
+        const OutsideWorld world;
+        const TemporaryRepository repository;
+        repository.run({u"mkdir App.xcodeproj"_s});
+        const RunningProgram program({{u"repos"_s, repository.dir()}}, world.variables());
+        QVERIFY(openMenu());
+        QVERIFY(!appeared(u"repo, branch main, Repo is clean"_s).name.isEmpty());
+        // From the last row into its panel, to its first entry and on to the third.
+        xdotool({u"key"_s, u"Up"_s, u"Right"_s});
+        QVERIFY(!appeared(u"Start terminal here"_s).name.isEmpty());
+        key(u"Return"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(
+            world.started(),
+            QStringList{
+                u"<app><--open><%1/App.xcodeproj><--name><Recorder><end>"_s.arg(repository.dir())},
+            10000);
+        xdotool({u"key"_s, u"Down"_s, u"Down"_s, u"Return"_s});
+        QTRY_COMPARE_WITH_TIMEOUT(world.openTerminals(), 1, 10000);
+    }
+};
 
 TARNWICK_TEST(PanelE2eTest)
 

@@ -7,8 +7,6 @@
 #include <QDBusVirtualObject>
 #include <QSignalSpy>
 
-#include <csignal>
-
 using namespace tarnwick::test;
 
 /// A file manager or an application on the bus: takes note of what it is asked for.
@@ -33,7 +31,6 @@ class OpenTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        std::signal(SIGPIPE, SIG_IGN);
         m_bus.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
         QVERIFY(m_bus.waitForReadyRead());
         const QString address = QString::fromUtf8(m_bus.readLine().trimmed());
@@ -82,7 +79,6 @@ private Q_SLOTS:
         for (const auto& name : {u"bin/recorder"_s, u"bin/xdg-terminal-exec"_s}) {
             writeFile(root.filePath(name),
                       "#!/bin/sh\ncd \"${0%/*}/..\"\n"
-                      "grep -q '^SigIgn:.*[13579bdf]...$' /proc/self/status && exit\n"
                       "while [ ! -e go ]; do sleep 0.02; done\n"
                       "printf '%s|' \"${0##*/}\" \"$@\" >new && mv new record\n");
             QFile::setPermissions(root.filePath(name), QFile::ReadOwner | QFile::ExeOwner);

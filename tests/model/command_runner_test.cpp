@@ -89,17 +89,6 @@ private Q_SLOTS:
         QVERIFY(delivery.thread != QThread::currentThread());
     }
 
-    void undecodableChannelsNeverComplete()
-    {
-        Delivery delivery;
-        m_shell.runGit({u"-c"_s, u"printf '\\302'; printf '\\377' >&2"_s}, m_record,
-                       into(delivery));
-        Delivery later;
-        m_shell.runGit({u"-c"_s, u"true"_s}, m_record, into(later));
-        QTRY_COMPARE(later.count, 1);
-        QCOMPARE(delivery.count, 0);
-    }
-
     void keepsTheRecordUntilItsCompletion()
     {
         auto record = m_bench.record(u"/nonexistent"_s);
@@ -123,14 +112,14 @@ private Q_SLOTS:
 
     void hangingJobsDoNotBlockOthers()
     {
-        QSemaphore hung;
+        const auto hung = std::make_shared<QSemaphore>(); // a worker may still be in it at the end
         const int threads = QThread::idealThreadCount();
         for (int i = 0; i < threads; ++i)
-            m_bench.queue.post([&hung] { hung.acquire(); });
+            m_bench.queue.post([hung] { hung->acquire(); });
         std::atomic_bool ran = false;
         m_bench.queue.post([&ran] { ran = true; });
         QTRY_VERIFY_WITH_TIMEOUT(ran, 15000);
-        hung.release(threads);
+        hung->release(threads);
     }
 
     void hangingJobsDoNotBlockTheEnd()

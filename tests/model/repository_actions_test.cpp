@@ -39,18 +39,6 @@ private Q_SLOTS:
         QCOMPARE(remoteWebAddress(remote).value_or(QString()), address);
     }
 
-    void remoteIsReadOnceAtCreation()
-    {
-        const TemporaryRepository repository;
-        repository.run({u"git remote add origin git@github.com:owner/repo.git"_s});
-        const auto record = m_bench.record(repository.dir());
-        QTRY_COMPARE(record->remoteUrl(), u"https://github.com/owner/repo"_s);
-        repository.run({u"git remote set-url origin git@gitlab.com:other/repo.git"_s});
-        refreshAll({record});
-        QTRY_VERIFY(record->branchString() && record->gitStatus() && !record->isLoading());
-        QCOMPARE(record->remoteUrl(), u"https://github.com/owner/repo"_s);
-    }
-
     void parsesLinks_data()
     {
         const auto row = table<QString, QList<RepoLink>>("stored", "links");

@@ -54,18 +54,6 @@ private Q_SLOTS:
         QTEST(loadedText(*m_bench.record(repository.dir())), "expected");
     }
 
-    void readsLinkedWorkTreesAndSubmodules()
-    {
-        const TemporaryRepository repository;
-        repository.run({u"git worktree add -q -b side ../tree; touch ../tree/n"_s,
-                        u"git init -q -b main ../outer; cd ../outer"_s,
-                        u"git -c protocol.file.allow=always submodule --quiet add ../repo inner"_s,
-                        u"echo x >> inner/a"_s});
-        QCOMPARE(loadedText(*m_bench.record(repository.beside(u"tree"_s))), u"side: 1 untracked"_s);
-        QCOMPARE(loadedText(*m_bench.record(repository.beside(u"outer/inner"_s))),
-                 u"main: 1 change"_s);
-    }
-
     void ignoresInheritedEnvironment()
     {
         const TemporaryRepository repository;

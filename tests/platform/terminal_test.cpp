@@ -4,8 +4,6 @@
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 
-#include <csignal>
-
 using namespace tarnwick::test;
 
 class TerminalTest : public QObject
@@ -64,32 +62,6 @@ private Q_SLOTS:
                      dir.toUtf8() + " \"$(touch proof)" + shell);
         }
         QVERIFY(!QFile::exists(m_root.filePath(u"proof"_s)) && QDir(dir).isEmpty());
-    }
-
-    void sessionWithoutItsDirectory()
-    {
-        const QByteArray text = shown(terminalSession(u"/gone"_s, {u"touch"_s, u"proof"_s}));
-        QVERIFY(text.contains("/gone") &&
-                text.endsWith("[shell in " + m_root.path().toUtf8() + ']'));
-        QVERIFY(!QFile::exists(m_root.filePath(u"proof"_s)));
-    }
-
-    void windowStartsInTheFolderWithDefaultSignals()
-    {
-        writeFile(
-            m_root.filePath(u"bin/xdg-terminal-exec"_s),
-            "#!/bin/sh\ngrep -q '^SigIgn:.*[13579bdf]...$' /proc/self/status && echo bad > bad\n"
-            "echo \"$@\" > new; mv new record\n");
-        QFile::setPermissions(m_root.filePath(u"bin/xdg-terminal-exec"_s),
-                              QFile::ReadOwner | QFile::ExeOwner);
-        const QByteArray path = qgetenv("PATH");
-        qputenv("PATH", m_root.filePath(u"bin:"_s).toUtf8() + path);
-        std::signal(SIGPIPE, SIG_IGN);
-        FreedesktopTerminalLauncher().open(
-            {.dir = m_root.path(), .command = {u"true"_s}, .appleScript = {}});
-        qputenv("PATH", path);
-        QTRY_VERIFY(QFile::exists(m_root.filePath(u"record"_s)));
-        QVERIFY(!QFile::exists(m_root.filePath(u"bad"_s)));
     }
 
 private:

@@ -5,10 +5,8 @@
 #include "support/test_registry.h"
 
 #include <QApplication>
-#include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QToolButton>
@@ -113,23 +111,6 @@ private Q_SLOTS:
         QTRY_VERIFY(m_view->findChild<QMessageBox*>());
     }
 
-    void dropStoresDraggedOrder()
-    {
-        QVERIFY(drag<QDragEnterEvent>(0));
-        QVERIFY(drag<QDragMoveEvent>(1));
-        QCOMPARE(shown(*m_view), u"a b c b"_s);
-
-        row(2)->dragSource()();
-        QVERIFY(drag<QDragMoveEvent>(0));
-        QVERIFY(!drag<QDragMoveEvent>(5));
-        QCOMPARE(shown(*m_other), u"c a b b"_s);
-        QVERIFY(!drag<QDropEvent>(5));
-        QCOMPARE(m_fixture->stored().first(), u"/n/a"_s);
-        QVERIFY(drag<QDragEnterEvent>(3));
-        QVERIFY(drag<QDropEvent>(3));
-        QCOMPARE(m_fixture->stored(), (QStringList{u"/n/c"_s, u"/n/a"_s, u"/n/b"_s, u"/n/b"_s}));
-    }
-
 private:
     [[nodiscard]] ReorderableRow* row(int index) const
     {
@@ -156,18 +137,6 @@ private:
                 choice->click();
         }
         QTRY_VERIFY(!m_view->findChild<QMessageBox*>());
-    }
-
-    template <typename Event>
-    bool drag(int overRow) const
-    {
-        QMimeData text;
-        text.setText(u"payload"_s);
-        const QPoint position(100, overRow * row(0)->height() + row(0)->height() / 2);
-        Event event(position, Qt::MoveAction | Qt::CopyAction, &text, Qt::LeftButton,
-                    Qt::NoModifier);
-        QApplication::sendEvent(m_column->viewport(), &event);
-        return event.isAccepted();
     }
 
     std::unique_ptr<SettingsFixture> m_fixture;

@@ -2,7 +2,6 @@
 #include "settings/settings_fixture.h"
 #include "settings/window/app_list.h"
 #include "support/test_registry.h"
-#include "views/app_icon.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -100,21 +99,6 @@ private Q_SLOTS:
         }
         QCOMPARE(AppList(f.system, f.user).list().join(u' '),
                  expected.replace(u"%1"_s, f.bench.folder.path()));
-    }
-
-    void switchesApplications()
-    {
-        SettingsFixture f;
-        const QString name = u"R & D.app"_s;
-        QVERIFY(QDir(f.bench.folder.path()).mkpath(u"user/"_s + name));
-        f.bench.store.setBool(true, u"showinapps___"_s + name);
-        const auto view = f.view();
-        auto* const box = buttonNamed(*view, name);
-        QVERIFY(box && box->isChecked());
-        box->click();
-        QVERIFY(!f.bench.store.boolForKey(u"showinapps___"_s + name));
-        QVERIFY(!appIcon(name, f.system, f.user).isNull());
-        QVERIFY(appIcon(u"None.app"_s, f.system, f.user).isNull());
     }
 };
 

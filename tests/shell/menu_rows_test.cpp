@@ -62,11 +62,6 @@ void click(const StatusMenu& under, QPoint global)
     QTest::mouseClick(under.windowHandle(), Qt::LeftButton, {}, under.mapFromGlobal(global));
 }
 
-void move(const StatusMenu& under, QPoint global)
-{
-    QTest::mouseMove(under.windowHandle(), under.mapFromGlobal(global));
-}
-
 void type(Qt::Key key)
 {
     QTest::keyClick(QApplication::activePopupWidget()->windowHandle(), key);
@@ -133,31 +128,6 @@ private Q_SLOTS:
         QVERIFY(m_rows[1].row->y() > m_rows[0].row->geometry().bottom());
         m_rows[0].label->setText(u"one"_s);
         QTRY_COMPARE(m_menu->geometry(), before);
-    }
-
-    void pointerOpensAndSwitchesPanels()
-    {
-        open(3);
-        // One move is enough, and crossing another row on the way to the panel changes nothing.
-        move(*m_menu, m_rows[0].blank());
-        QVERIFY(m_rows[0].row->isActive());
-        QTRY_VERIFY(m_rows[0].panel->isVisible());
-        const QRect panel = m_rows[0].panel->geometry();
-        const QPoint near(m_menu->geometry().right(), m_rows[0].row->mapToGlobal(QPoint()).y());
-        const bool isLeft = panel.right() < near.x();
-        const QPoint edge(isLeft ? m_menu->x() : near.x(), near.y());
-        const int inwards = isLeft ? 20 : -20;
-        move(*m_menu, edge + QPoint(2 * inwards, m_rows[0].row->height() - 1));
-        move(*m_menu, edge + QPoint(inwards / 2, m_rows[0].row->height() + 5));
-        QVERIFY(m_rows[0].row->isActive());
-        move(*m_menu, panel.center());
-        QVERIFY(m_rows[0].panel->isVisible() && m_rows[0].row->isActive());
-
-        move(*m_menu, m_rows[2].blank());
-        QTRY_VERIFY(m_rows[2].panel->isVisible());
-        QVERIFY(!m_rows[0].panel->isVisible() && !m_rows[0].row->isActive());
-        move(*m_menu, m_menu->geometry().bottomRight() + QPoint(50, 50));
-        QVERIFY(m_rows[2].row->isActive());
     }
 
     void manyRowsScroll()

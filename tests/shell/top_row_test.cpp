@@ -2,7 +2,6 @@
 #include "model/bundle_info.h"
 #include "shell/top_row/refresh_view.h"
 #include "shell/updates/updater.h"
-#include "support/stops_process.h"
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
 #include "support/workbench.h"
@@ -55,11 +54,6 @@ private Q_SLOTS:
         QCOMPARE(row.width(), 340);
         for (const auto* const child : row.findChildren<QWidget*>())
             QVERIFY(row.rect().adjusted(20, 10, -20, -10).contains(child->geometry()));
-    }
-
-    void buildNumberIsNeeded()
-    {
-        QVERIFY(stopsProcess([this] { RefreshView({}, stoppedUpdater(), BundleInfo({})); }));
     }
 
 private:

@@ -69,15 +69,9 @@ private Q_SLOTS:
         row("no item", start + end, "no feed");
         row("truncated", start + "<item>" + ten + "</item><item>", "no feed");
         row("second root", item(ten) + "<rss/>", "no feed");
-        row("deeply nested", start + "<item>" + QByteArray("<description>").repeated(300'000),
-            "no feed");
-        row("overlong tag", item(ten + "<x a='" + QByteArray(40'000, '>') + "'/>"), "no feed");
         row("web page", "<!DOCTYPE html><html><body>Sign in</body></html>", "no feed");
         row("document type", "<!DOCTYPE rss>" + item(ten), "10");
         row("entities", "<!DOCTYPE rss [<!ENTITY a 'a'><!ENTITY b '&a;&a;'>]>" + item(ten),
-            "no feed");
-        row("parameter entity",
-            "<!DOCTYPE rss [<!ENTITY % a SYSTEM 'file:///etc/hostname'> %a;]>" + item(ten),
             "no feed");
     }
 

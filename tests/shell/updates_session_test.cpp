@@ -65,18 +65,6 @@ private Q_SLOTS:
         QVERIFY(!file.permissions().testAnyFlag(QFile::ExeOwner));
     }
 
-    void unusableFolderIsReported()
-    {
-        m_settings.downloadFolder = QCoreApplication::applicationFilePath();
-        m_server.answer("/feed", LoopbackServer::bytes(m_update.signedFeed("pkg")));
-        UpdateSession session(m_settings);
-        session.start();
-        QTRY_COMPARE(session.state(), State::Offering);
-        session.download();
-        QCOMPARE(session.state(), State::Failed);
-        QVERIFY2(session.error().contains(u"cannot be saved in"_s), qPrintable(session.error()));
-    }
-
     /// Each row changes one thing of a valid update: the feed's path, the key or a text that
     /// is replaced before the feed is signed.
     void failuresAreReportedAndLeaveNoFile_data()

@@ -106,14 +106,6 @@ private Q_SLOTS:
             QDir(m_folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     }
 
-    void isDisabledWithoutATrustedFeed()
-    {
-        for (const auto* feed : {"", "http://example.org/feed"}) {
-            m_settings.feed = QUrl::fromEncoded(feed);
-            QVERIFY(!StandardUpdaterController(m_settings, true).updater().canCheckForUpdates());
-        }
-    }
-
     /// All but the first would load a file, or take Qt minutes or unlimited memory.
     void onlyHarmlessReleaseNotesAreHtml()
     {
