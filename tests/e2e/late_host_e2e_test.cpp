@@ -12,14 +12,14 @@ class LateHostE2eTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void itemAppearsWithTheHost_data()
+    void itemFollowsTheHost_data()
     {
         const auto row = table<QString>("host");
         row("status notifier host", u"xfce4-panel"_s);
         row("XEmbed host", u"xembed-tray"_s);
     }
 
-    void itemAppearsWithTheHost()
+    void itemFollowsTheHost()
     {
         QFETCH(QString, host);
         RunningProgram program;
@@ -27,16 +27,20 @@ private Q_SLOTS:
                                   1, 15000);
         QVERIFY(statusItemPosition().isNull());
 
-        QProcess panel;
-        panel.start(QStringLiteral(TARNWICK_SCRIPTS "/tray_host.sh"), {host});
-        QVERIFY(openMenu());
-        const QString advice =
-            u"Open the settings (the gear) and add some repositories to get started!"_s;
-        QVERIFY(menuRows().isEmpty());
-        QCOMPARE(accessibleNamed(advice).area.height(), 140);
-        key(u"Escape"_s);
-        panel.terminate();
-        panel.waitForFinished();
+        // The item comes back when the panel is restarted.
+        for (int start = 1; start <= 2; ++start) {
+            QProcess panel;
+            panel.start(QStringLiteral(TARNWICK_SCRIPTS "/tray_host.sh"), {host});
+            QVERIFY(openMenu());
+            const QString advice =
+                u"Open the settings (the gear) and add some repositories to get started!"_s;
+            QVERIFY(menuRows().isEmpty());
+            QCOMPARE(accessibleNamed(advice).area.height(), 140);
+            key(u"Escape"_s);
+            panel.terminate();
+            QVERIFY(panel.waitForFinished());
+            QTRY_VERIFY(statusItemPosition().isNull());
+        }
     }
 };
 
