@@ -235,7 +235,10 @@ QRect StatusMenu::availableArea() const
     if (const StatusMenu* const parent = parentMenu())
         return parent->availableArea();
     const QScreen* const at = QGuiApplication::screenAt(m_anchor.center());
-    return areaWithoutPanels((at ? at : screen())->availableGeometry(), m_panels);
+    const QScreen& shown = at ? *at : *screen();
+    // Qt 6.11 does not scale the position of the available geometry.
+    return m_panels.isEmpty() ? shown.availableGeometry()
+                              : areaWithoutPanels(shown.geometry(), m_panels);
 }
 
 } // namespace tarnwick
