@@ -2,6 +2,7 @@
 #include "model/background_queue.h"
 #include "model/bundle_info.h"
 #include "model/command_runner.h"
+#include "model/preferences_file.h"
 #include "model/preferences_store.h"
 #include "platform/application_instance.h"
 #include "platform/platform.h"
@@ -40,7 +41,9 @@ int main(int argc, char* argv[])
 
     installMenuAccessibility();
 
-    PreferencesStore store(PreferencesStore::defaultFilePath());
+    PreferencesStore store = platform.userDefaults
+                                 ? PreferencesStore(std::move(platform.userDefaults))
+                                 : PreferencesStore(PreferencesFile::defaultPath());
     CommandRunner runner({.open = platform.openProgram});
     BackgroundQueue queue;
 

@@ -1,62 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "model/preferences_store.h"
 
-#include "model/diagnostics.h"
-#include "platform/durable_file.h"
+#include "model/preferences_file.h"
 
-#include <QDateTime>
-#include <QFile>
-#include <QFileInfo>
-#include <QJsonDocument>
 #include <QMutexLocker>
-#include <QStandardPaths>
 
 namespace tarnwick {
 
-namespace {
-
-constexpr qint64 maxFileSize = 16 * 1024 * 1024;
-
-std::optional<QByteArray> readFile(const QFileInfo& info)
-{
-    // Opening a pipe would block, and a device may never end.
-    QFile file(info.filePath());
-    if (!info.isFile() || info.size() > maxFileSize || !file.open(QIODevice::ReadOnly))
-        return {};
-    QByteArray bytes = file.read(maxFileSize);
-    return file.error() == QFile::NoError ? std::optional(std::move(bytes)) : std::nullopt;
-}
-
-/// Moves a file out of the way under a name that nothing else has.
-bool setAside(const QString& filePath)
-{
-    const QString stem = filePath + QStringLiteral(".unreadable-") +
-                         QDateTime::currentDateTimeUtc().toString(u"yyyyMMdd-HHmmss");
-    // QFile::rename never replaces an existing file.
-    QString name = stem;
-    for (int attempt = 2; QFile::exists(name); ++attempt)
-        name = stem + u'-' + QString::number(attempt);
-    return QFile::rename(filePath, name);
-}
-
-} // namespace
+PreferencesStore::PreferencesStore(std::unique_ptr<PreferencesStorage> storage, QObject* parent)
+    : QObject(parent)
+    , m_storage(std::move(storage))
+    , m_values(m_storage->load())
+{}
 
 PreferencesStore::PreferencesStore(QString filePath, QObject* parent)
-    : QObject(parent)
-    , m_filePath(std::move(filePath))
-{
-    load();
-}
+    : PreferencesStore(std::make_unique<PreferencesFile>(std::move(filePath)), parent)
+{}
 
 PreferencesStore::~PreferencesStore()
 {
     synchronize();
-}
-
-QString PreferencesStore::defaultFilePath()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/tarnwick/preferences.json");
 }
 
 bool PreferencesStore::boolForKey(const QString& key, bool fallback) const
@@ -90,41 +53,20 @@ QVariantMap PreferencesStore::dictionaryRepresentation() const
 
 void PreferencesStore::synchronize()
 {
-    const QMutexLocker fileLock(&m_fileMutex);
+    const QMutexLocker storageLock(&m_storageMutex);
     QJsonObject values;
     {
         const QMutexLocker lock(&m_valuesMutex);
         m_isSaveScheduled = false;
-        if (!m_hasUnsavedWrites || !m_isWritable)
+        if (!m_hasUnsavedWrites)
             return;
         m_hasUnsavedWrites = false;
         values = m_values;
     }
-    if (replaceFileDurably(m_filePath, QJsonDocument(values).toJson()))
+    if (m_storage->save(values))
         return;
-    writeDiagnosticLine(QStringLiteral("Preferences could not be written to ") + m_filePath);
     const QMutexLocker lock(&m_valuesMutex);
     m_hasUnsavedWrites = true;
-}
-
-void PreferencesStore::load()
-{
-    const QFileInfo info(m_filePath);
-    if (!info.exists() && !info.isSymLink())
-        return;
-    const auto bytes = readFile(info);
-    const QJsonDocument document = QJsonDocument::fromJson(bytes.value_or(QByteArray()));
-    if (document.isObject()) {
-        m_values = document.object();
-        return;
-    }
-    m_isWritable = bytes && setAside(m_filePath);
-    const QString problem = bytes ? QStringLiteral(" is no preferences file and ")
-                                  : QStringLiteral(" cannot be read and ");
-    writeDiagnosticLine(m_filePath + problem +
-                        (m_isWritable
-                             ? QStringLiteral("was set aside")
-                             : QStringLiteral("is left alone; nothing will be remembered")));
 }
 
 void PreferencesStore::write(const QString& key, const QJsonValue& value)

@@ -7,31 +7,30 @@
 #include <QString>
 #include <QVariantMap>
 
+#include <memory>
 #include <optional>
 
 namespace tarnwick {
 
-/// What the program remembers between runs: booleans and strings under flat keys, kept as one JSON
-/// object in one file that only the user may read.
+class PreferencesStorage;
+
+/// What the program remembers between runs: booleans and strings under flat keys.
 ///
 /// Reads never fail: an absent or mistyped value reads as absent. Writes are visible to all readers
-/// at once and reach the file at the end of the event-loop turn, or in `synchronize()`, or at the
-/// latest in the destructor. Values of other types, put there by hand, are kept as they are.
+/// at once and are saved at the end of the event-loop turn, or in `synchronize()`, or at the latest
+/// in the destructor. Values of other types, put there by hand, are kept as they are.
 /// Every operation may be called from any thread; the object itself lives on the main thread.
 class PreferencesStore : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Reads the file. One that holds no JSON object is renamed beside it, and the store starts
-    /// empty. What cannot be read (another owner's file, a link to nowhere, a device, more than
-    /// 16 MiB) or renamed is left alone: the store starts empty, and nothing is ever written.
-    /// A diagnostic line tells about either.
+    /// Loads what the storage holds.
+    explicit PreferencesStore(std::unique_ptr<PreferencesStorage> storage,
+                              QObject* parent = nullptr);
+    /// Keeps them in a PreferencesFile.
     explicit PreferencesStore(QString filePath, QObject* parent = nullptr);
     ~PreferencesStore() override;
-
-    /// Where this user's preferences live.
-    [[nodiscard]] static QString defaultFilePath();
 
     [[nodiscard]] bool boolForKey(const QString& key, bool fallback = false) const;
     void setBool(bool value, const QString& key);
@@ -50,19 +49,17 @@ Q_SIGNALS:
     void valueWritten(const QString& key);
 
 private:
-    void load();
     void write(const QString& key, const QJsonValue& value);
 
-    const QString m_filePath;
-    bool m_isWritable = true;
+    const std::unique_ptr<PreferencesStorage> m_storage;
 
     mutable QMutex m_valuesMutex;
     QJsonObject m_values;
     bool m_hasUnsavedWrites = false;
     bool m_isSaveScheduled = false;
 
-    /// Taken before `m_valuesMutex`; keeps an older state from replacing a newer file.
-    QMutex m_fileMutex;
+    /// Taken before `m_valuesMutex`; keeps an older state from replacing a newer one.
+    QMutex m_storageMutex;
 };
 
 } // namespace tarnwick

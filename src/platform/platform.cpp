@@ -4,6 +4,7 @@
 #include "platform/active_window.h"
 #include "platform/application_folder.h"
 #include "platform/login_services.h"
+#include "platform/preferences_storage.h"
 #include "platform/terminal_launcher.h"
 #include "platform/tray_host.h"
 

@@ -12,6 +12,7 @@ namespace tarnwick {
 class ActiveWindow;
 class ApplicationFolder;
 class LoginServices;
+class PreferencesStorage;
 class TerminalLauncher;
 class TrayHost;
 
@@ -31,6 +32,8 @@ struct Platform
     std::unique_ptr<ApplicationFolder> systemApplications;
     std::unique_ptr<ApplicationFolder> userApplications;
     std::unique_ptr<LoginServices> loginServices;
+    /// The system's own preferences service; null where it has none.
+    std::unique_ptr<PreferencesStorage> userDefaults;
     /// Absolute path of the program that opens a directory in an application, or shows a file in
     /// the file manager.
     QString openProgram;
