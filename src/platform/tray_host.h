@@ -10,6 +10,15 @@
 
 namespace tarnwick {
 
+/// What a desktop makes of a status item.
+enum class ItemStyle {
+    /// Shows the icon as it is drawn, and opens the item's menu on a right click.
+    Colored,
+    /// Takes the icon's shape and colours it itself. A menu of the item would open on a left click,
+    /// too, so the item must not have one.
+    Template,
+};
+
 /// Knows when the desktop has a place for a status item.
 ///
 /// Qt looks for such a place once per process and never again, so nobody may make a QSystemTrayIcon
@@ -24,6 +33,8 @@ public:
     using QObject::QObject;
 
     [[nodiscard]] virtual bool available() const = 0;
+
+    [[nodiscard]] virtual ItemStyle itemStyle() const { return ItemStyle::Colored; }
 
     /// Where the desktop's panels are to be seen now, in logical coordinates of all screens; empty
     /// where none is, or where the desktop does not tell. Asks anew each time.

@@ -28,6 +28,13 @@ QColor colorOn(const QColor& panel)
     return contrast(panel, light) >= contrast(panel, dark) ? light : dark;
 }
 
+QIcon templateIcon()
+{
+    QIcon icon = symbolIcon(glyphText(glyph::statusItem), Qt::black);
+    icon.setIsMask(true);
+    return icon;
+}
+
 } // namespace
 
 StatusItem::StatusItem(TrayHost& host, QObject* parent)
@@ -71,24 +78,32 @@ void StatusItem::showIcon()
     if (!m_icon) {
         m_icon = std::make_unique<QSystemTrayIcon>();
         m_icon->setToolTip(QStringLiteral("Tarnwick"));
-        m_icon->setContextMenu(&m_contextMenu);
-        connect(m_icon.get(), &QSystemTrayIcon::activated, this,
-                [this](QSystemTrayIcon::ActivationReason reason) {
-                    if (reason == QSystemTrayIcon::Context)
-                        return;
-                    m_anchor = anchor();
-                    updateColor(); // nothing announces a panel that was given another colour
-                    Q_EMIT triggered(m_anchor);
-                });
+        if (m_host.itemStyle() == ItemStyle::Template)
+            m_icon->setIcon(templateIcon());
+        else
+            m_icon->setContextMenu(&m_contextMenu);
+        connect(m_icon.get(), &QSystemTrayIcon::activated, this, &StatusItem::onActivated);
         updateColor();
         m_icon->show();
     }
     m_panelTimer.start();
 }
 
+void StatusItem::onActivated(QSystemTrayIcon::ActivationReason reason)
+{
+    if (reason == QSystemTrayIcon::Context) {
+        if (!m_icon->contextMenu())
+            m_contextMenu.popup(anchor().bottomLeft());
+        return;
+    }
+    m_anchor = anchor();
+    updateColor(); // nothing announces a panel that was given another colour
+    Q_EMIT triggered(m_anchor);
+}
+
 void StatusItem::updateColor()
 {
-    if (!m_icon)
+    if (!m_icon || m_host.itemStyle() == ItemStyle::Template)
         return;
     const QRect place = m_icon->geometry();
     const auto panel = m_host.panelColor(place.isEmpty() ? m_anchor : place);

@@ -37,6 +37,7 @@ Q_SIGNALS:
 private:
     void fillContextMenu();
     void showIcon();
+    void onActivated(QSystemTrayIcon::ActivationReason reason);
     void updateColor();
     QRect anchor() const;
 
