@@ -1,15 +1,18 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Runs a command in a private X desktop with a tray and returns the command's exit status:
+# Runs a command in a private desktop with a tray and returns the command's exit status:
 #
-#   virtual_desktop.sh [--host xfce4-panel|xembed-tray|none] [--size 1280x800] [--dark] [--scale N]
+#   virtual_desktop.sh [--host NAME] [--size 1280x800] [--dark | --dark-panel] [--scale N]
 #                      -- COMMAND...
 #
-# The command sees its own display, session bus, accessibility bus, HOME and XDG folders, and
-# nothing of the caller's desktop. It starts once the tray host takes icons, not earlier: Qt picks
-# its tray protocol when the first icon is made. --size counts logical pixels: with --scale 2 the
-# screen has twice as many each way. Theme, font and scale are given by XSettings, see
-# desktop/desktop_theme.sh.
+# NAME is one of desktop/hosts.list, xfce4-panel by default, or none. The command sees its own
+# display, session bus, accessibility bus, HOME and XDG folders, and nothing of the caller's desktop.
+# It starts once the tray host takes icons, not earlier: Qt picks its tray protocol when the first
+# icon is made. A Wayland compositor stands in a window on the X display of the command, which can so
+# take pictures and move the pointer; desktop/in_session.sh starts what shall be the compositor's
+# client. --size counts logical pixels: with --scale 2 the screen has twice as many each way. Theme,
+# font and scale are given by XSettings, see desktop/desktop_theme.sh; --dark-panel leaves the
+# applications light, on Plasma only.
 set -euo pipefail
 scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 desktop=$scripts/desktop
@@ -22,13 +25,17 @@ while (($#)); do
     --host) host=${2-}; shift 2 || usage ;;
     --size) size=${2-}; shift 2 || usage ;;
     --scale) scale=${2-}; shift 2 || usage ;;
-    --dark) theme=dark; shift ;;
+    --dark | --dark-panel) theme=${1#--}; shift ;;
     --) shift; break ;;
     *) usage ;;
     esac
 done
-[[ $host =~ ^(xfce4-panel|xembed-tray|none)$ && $size =~ ^[0-9]+x[0-9]+$ && $scale =~ ^[1-4]$ ]] || usage
+[[ $size =~ ^[0-9]+x[0-9]+$ && $scale =~ ^[1-4]$ ]] || usage
 (($#)) || usage
+desktop_name=XFCE session=panel ready=
+if [[ $host != none ]]; then
+    read -r _ _ desktop_name session ready _ < <(grep "^$host " "$desktop/hosts.list") || usage
+fi
 
 for program in Xvfb dbus-daemon gdbus openbox xsettingsd hsetroot python3; do
     command -v "$program" >/dev/null && continue
@@ -86,11 +93,14 @@ enter_private_environment() {
         SESSION_MANAGER | DESKTOP_SESSION | AT_SPI_* | NO_AT_BRIDGE | LC_* | LANGUAGE) unset "$name" ;;
         esac
     done
-    export HOME=$home LANG=C.UTF-8 GIT_CONFIG_NOSYSTEM=1 GSETTINGS_BACKEND=memory
+    export HOME=$home LANG=C.UTF-8 GIT_CONFIG_NOSYSTEM=1 GSETTINGS_BACKEND=keyfile
     export XDG_CONFIG_HOME=$home/.config XDG_DATA_HOME=$home/.local/share XDG_CACHE_HOME=$home/.cache
     export XDG_STATE_HOME=$home/.local/state XDG_RUNTIME_DIR=$home/.runtime
     export XDG_CONFIG_DIRS=/etc/xdg XDG_DATA_DIRS=/usr/local/share:/usr/share
-    export XDG_CURRENT_DESKTOP=XFCE XDG_SESSION_TYPE=x11 TARNWICK_DESKTOP_SCALE=$scale
+    export XDG_CURRENT_DESKTOP=$desktop_name XDG_SESSION_TYPE=x11
+    [[ $session != wayland ]] || XDG_SESSION_TYPE=wayland
+    export TARNWICK_DESKTOP_SCALE=$scale TARNWICK_DESKTOP_READY=$ready TARNWICK_DESKTOP_THEME=$theme
+    export TARNWICK_DESKTOP_SIZE=$((${size%x*} * scale))x$((${size#*x} * scale))
     # What a program leaves in its temporary folder when it is killed goes with the desktop.
     export TMPDIR=$home/tmp
     mkdir -p "$TMPDIR" "$logs" "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_CACHE_HOME" "$XDG_STATE_HOME"
@@ -98,19 +108,19 @@ enter_private_environment() {
 }
 
 start_desktop() {
-    local width=$((${size%x*} * scale)) height=$((${size#*x} * scale))
-    start_and_read Xvfb -displayfd 3 -screen 0 "${width}x${height}x24" -dpi $((96 * scale)) \
+    start_and_read Xvfb -displayfd 3 -screen 0 "${TARNWICK_DESKTOP_SIZE}x24" -dpi $((96 * scale)) \
         -nolisten tcp -noreset
     export DISPLAY=:$answer
     start_and_read dbus-daemon --session --nofork --print-address=3 \
         --address="unix:path=$XDG_RUNTIME_DIR/bus"
     export DBUS_SESSION_BUS_ADDRESS=$answer
-    "$desktop/desktop_theme.sh" "$theme"
+    "$desktop/desktop_theme.sh" "${theme%-panel}"
     start xsettingsd
     echo "${pids[-1]}" >"$XDG_RUNTIME_DIR/xsettingsd.pid"
     gdbus call --session --dest org.a11y.Bus --object-path /org/a11y/bus \
         --method org.freedesktop.DBus.Properties.Set org.a11y.Status IsEnabled '<true>' \
         >"$logs/accessibility.log" 2>&1 || give_up "the accessibility bus did not start"
+    [[ $session == panel ]] || return 0
     start openbox --sm-disable
     "$desktop/wait_for_desktop.py" window-manager || give_up "openbox did not start"
 }
@@ -119,7 +129,7 @@ enter_private_environment
 start_desktop
 if [[ $host != none ]]; then
     start "$desktop/tray_host.sh" "$host"
-    "$desktop/wait_for_desktop.py" "$host" || give_up "$host did not offer a tray"
+    "$desktop/wait_for_desktop.py" "$ready" || give_up "$host did not come up"
 fi
 
 setpriv --pdeathsig TERM -- "$@" <&0 &

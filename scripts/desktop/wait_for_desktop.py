@@ -1,10 +1,12 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""wait_for_desktop.py xfce4-panel|xembed-tray|window-manager: returns once that part is ready.
+"""wait_for_desktop.py PART[,PART]: returns once these parts of the desktop are ready.
 
-The panel is ready when a status notifier watcher says it has a host, the other tray when it owns
-the tray selection of the display. Fails after 30 seconds.
+notifier: a status notifier watcher says that it has a host; tray: the tray selection of the display
+has an owner; window-manager; compositor: the socket of a Wayland compositor is there. Fails after a
+minute.
 """
+import os
 import sys
 import time
 
@@ -36,12 +38,13 @@ def has_window_manager(screen):
 def main():
     screen = display.Display()
     ready = {
-        "xfce4-panel": lambda: watcher_has_host() and has_tray_selection(screen),
-        "xembed-tray": lambda: has_tray_selection(screen),
+        "notifier": watcher_has_host,
+        "tray": lambda: has_tray_selection(screen),
         "window-manager": lambda: has_window_manager(screen),
-    }[sys.argv[1]]
-    deadline = time.monotonic() + 30
-    while not ready():
+        "compositor": lambda: os.path.exists(os.environ["XDG_RUNTIME_DIR"] + "/wayland-1"),
+    }
+    deadline = time.monotonic() + 60
+    while not all(ready[part]() for part in sys.argv[1].split(",")):
         if time.monotonic() > deadline:
             sys.exit(1)
         time.sleep(0.05)
