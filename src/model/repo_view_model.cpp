@@ -7,6 +7,7 @@
 #include "model/preference_keys.h"
 #include "model/preferences_store.h"
 #include "model/remote_address.h"
+#include "model/repository_logo.h"
 #include "model/terminal_request.h"
 
 #include <QFileInfo>
@@ -33,7 +34,6 @@ RepoViewModel::create(QString dir, std::shared_ptr<RepoViewModelDelegate> delega
 {
     std::shared_ptr<RepoViewModel> record(
         new RepoViewModel(std::move(dir), std::move(delegate), services), destroyOnItsThread);
-    record->loadLogo();
     record->startQueries();
     return record;
 }
@@ -44,14 +44,8 @@ RepoViewModel::RepoViewModel(QString dir, std::shared_ptr<RepoViewModelDelegate>
     , m_name(m_dir.split(u'/').constLast())
     , m_delegate(std::move(delegate))
     , m_services(services)
+    , m_logo(readRepositoryLogo(m_dir + QStringLiteral("/TarnwickLogo.png")))
 {}
-
-void RepoViewModel::loadLogo()
-{
-    QImage logo(m_dir + QStringLiteral("/TarnwickLogo.png"), "PNG");
-    if (!logo.isNull())
-        m_logo = std::move(logo);
-}
 
 void RepoViewModel::startQueries()
 {

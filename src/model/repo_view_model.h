@@ -67,7 +67,8 @@ public:
     {
         return m_delegate;
     }
-    /// The picture that the repository brings along at its top level, if it can be read.
+    /// The picture that the repository brings along at its top level, if it can be read, reduced;
+    /// see repository_logo.h.
     [[nodiscard]] const std::optional<QImage>& logo() const { return m_logo; }
 
     [[nodiscard]] bool isRepo() const { return m_isRepo; }
@@ -135,7 +136,6 @@ private:
     RepoViewModel(QString dir, std::shared_ptr<RepoViewModelDelegate> delegate,
                   RepoServices services);
 
-    void loadLogo();
     void startQueries();
     void refreshRemoteUrl();
     void applyStatus(const QString& text);
@@ -151,7 +151,7 @@ private:
     const QString m_name;
     const std::shared_ptr<RepoViewModelDelegate> m_delegate;
     const RepoServices m_services;
-    std::optional<QImage> m_logo;
+    const std::optional<QImage> m_logo;
 
     bool m_isRepo = true;
     bool m_isLoading = false;
