@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/content_window.h"
 
+#include "platform/window_activation.h"
+
 #include <QMainWindow>
 
 namespace tarnwick {
@@ -10,8 +12,7 @@ void showWindow(std::unique_ptr<QWidget> window, const QString& title)
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(title);
     window->show();
-    window->raise();
-    window.release()->activateWindow();
+    bringToFront(*window.release());
 }
 
 void showInWindow(std::unique_ptr<QWidget> content, const QString& title)

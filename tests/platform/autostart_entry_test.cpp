@@ -19,7 +19,7 @@ private Q_SLOTS:
         QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
         const QString file = m_root.filePath(u"new/x.y.Helper.desktop"_s);
         writeFile(file, "[Desktop Entry]\nHidden=true\n");
-        const AutostartEntry entry(m_root.filePath(u"new"_s), m_name, program);
+        const LoginItemFile entry = autostartEntry(m_root.filePath(u"new"_s), m_name, program);
         QVERIFY(entry.write());
         const QDateTime written = QFileInfo(file).fileTime(QFile::FileMetadataChangeTime);
         QCOMPARE(QProcess::execute(u"gio"_s, {u"launch"_s, file}), 0);
@@ -49,7 +49,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, folder);
         QFETCH(QString, program);
-        QVERIFY(!AutostartEntry(folder, m_name, program).write());
+        QVERIFY(!autostartEntry(folder, m_name, program).write());
     }
 
 private:

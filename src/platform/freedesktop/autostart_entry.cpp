@@ -1,14 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/autostart_entry.h"
 
-#include "platform/durable_file.h"
-
-#include <QFile>
-#include <QFileInfo>
-
-#include <cerrno>
-#include <unistd.h>
-
 namespace tarnwick {
 
 namespace {
@@ -42,35 +34,7 @@ QString commandLine(const QString& program)
     return u'"' + escaped(path, u"\\\"`$") + u'"';
 }
 
-} // namespace
-
-AutostartEntry::AutostartEntry(const QString& folder, const QString& identifier, QString program)
-    : m_path(folder + u'/' + identifier + QStringLiteral(".desktop"))
-    , m_program(std::move(program))
-{}
-
-bool AutostartEntry::write() const
-{
-    const QFileInfo program(m_program);
-    if (!program.isFile() || !program.isExecutable())
-        return false;
-    return isWritten() || replaceFileDurably(m_path, content());
-}
-
-bool AutostartEntry::isWritten() const
-{
-    QFile file(m_path);
-    // Anything but a file, which a link may lead to, could keep a reader waiting for ever.
-    return QFileInfo(m_path).isFile() && file.open(QIODevice::ReadOnly) &&
-           file.readAll() == content();
-}
-
-bool AutostartEntry::remove() const
-{
-    return ::unlink(QFile::encodeName(m_path).constData()) == 0 || errno == ENOENT;
-}
-
-QByteArray AutostartEntry::content() const
+QByteArray content(const QString& program)
 {
     // TryExec: a program that has been uninstalled is passed over in silence. The last three put it
     // behind the panel. There is no X-GNOME-Autostart-Phase: systemd's generator of autostart units
@@ -87,8 +51,16 @@ QByteArray AutostartEntry::content() const
                           "X-KDE-autostart-after=panel\n"
                           "X-KDE-autostart-phase=2\n"
                           "X-LXQt-Need-Tray=true\n")
-        .arg(stringValue(commandLine(m_program)), stringValue(m_program))
+        .arg(stringValue(commandLine(program)), stringValue(program))
         .toUtf8();
+}
+
+} // namespace
+
+LoginItemFile autostartEntry(const QString& folder, const QString& identifier,
+                             const QString& program)
+{
+    return {folder + u'/' + identifier + QStringLiteral(".desktop"), program, content(program)};
 }
 
 } // namespace tarnwick

@@ -18,10 +18,10 @@ FreedesktopLoginServices::FreedesktopLoginServices(QString loginProgram)
 
 bool FreedesktopLoginServices::setLoginItemEnabled(const QString& identifier, bool enabled)
 {
-    const AutostartEntry entry(
-        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-            QStringLiteral("/autostart"),
-        identifier, m_loginProgram);
+    const LoginItemFile entry =
+        autostartEntry(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                           QStringLiteral("/autostart"),
+                       identifier, m_loginProgram);
     return enabled ? entry.write() : entry.remove();
 }
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/terminal_launcher.h"
 
+#include "platform/detached_program.h"
 #include "platform/freedesktop/terminal_command.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
 
 namespace tarnwick {
 
@@ -35,19 +35,9 @@ exec "$SHELL")");
 void FreedesktopTerminalLauncher::open(const TerminalRequest& request)
 {
     const QString folder = startFolder(request.dir);
-    const auto command = terminalCommand(folder, terminalSession(request.dir, request.command));
-    if (!command)
-        return;
-
-    QProcess terminal;
-    terminal.setProgram(command->program);
-    terminal.setArguments(command->arguments);
-    terminal.setWorkingDirectory(folder);
-    // It outlives us, and must not keep our caller's channels open or write between our lines.
-    terminal.setStandardInputFile(QProcess::nullDevice());
-    terminal.setStandardOutputFile(QProcess::nullDevice());
-    terminal.setStandardErrorFile(QProcess::nullDevice());
-    terminal.startDetached();
+    if (const auto terminal =
+            terminalCommand(folder, terminalSession(request.dir, request.command)))
+        startDetached(terminal->program, terminal->arguments, folder);
 }
 
 } // namespace tarnwick

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/menu/status_menu.h"
 
+#include "platform/window_activation.h"
 #include "shell/menu/hosted_row.h"
 #include "shell/menu/hosting_view.h"
 #include "shell/menu/menu_input.h"
@@ -168,7 +169,7 @@ void StatusMenu::dismiss()
 void StatusMenu::becomeKeyWindow()
 {
     if (windowType() == Qt::Window)
-        activateWindow();
+        bringToFront(*this);
     setFocus(Qt::PopupFocusReason);
 }
 

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#include "platform/window_activation.h"
+
+#include <QWidget>
+
+namespace tarnwick {
+
+void bringToFront(QWidget& window)
+{
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace tarnwick
