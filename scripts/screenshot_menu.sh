@@ -4,15 +4,17 @@
 # panel and saves a picture of the screen; prints the picture's path.
 #
 #   screenshot_menu.sh [--output PNG] [--program PATH] [--repos samples|COUNT] [--dark] [--scale N]
-#                      [--panel ROW] [--host xfce4-panel|xembed-tray] [--size WxH] [--preference KEY=JSON]...
+#                      [--panel ROW] [--type LETTERS] [--host xfce4-panel|xembed-tray] [--size WxH]
+#                      [--preference KEY=JSON]...
 #
 # The preferences are made for the occasion, too: nothing of the user's is read or written.
 set -euo pipefail
 scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-usage() { sed -n '6,7s/^# *//p' "${BASH_SOURCE[0]}" >&2; exit 64; }
+usage() { sed -n '6,8s/^# *//p' "${BASH_SOURCE[0]}" >&2; exit 64; }
 
 output=$scripts/../build/screenshots/menu.png
 panel=
+letters=
 program=$scripts/../build/release/bin/tarnwick
 repos=samples
 desktop=()
@@ -24,6 +26,7 @@ while (($#)); do
     --repos) repos=${2-}; shift 2 || usage ;;
     --preference) preferences+=("${2-}"); shift 2 || usage ;;
     --panel) panel=${2-}; shift 2 || usage ;;
+    --type) letters=${2-}; shift 2 || usage ;;
     --dark) desktop+=("$1"); shift ;;
     --scale | --host | --size) desktop+=("$1" "${2-}"); shift 2 || usage ;;
     *) usage ;;
@@ -50,5 +53,5 @@ mkdir -p "$folder/config/tarnwick"
 } >"$folder/config/tarnwick/preferences.json"
 
 "$scripts/virtual_desktop.sh" ${desktop[@]+"${desktop[@]}"} -- \
-    "$scripts/desktop/photograph_menu.sh" "$program" "$folder" "$output" "$panel"
+    "$scripts/desktop/photograph_menu.sh" "$program" "$folder" "$output" "$panel" "$letters"
 echo "$output"

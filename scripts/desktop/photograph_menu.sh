@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# photograph_menu.sh PROGRAM FOLDER PNG: on the current display, starts PROGRAM with the preferences
-# in FOLDER/config, opens its menu by a click, waits until nothing turns in it any more and takes a
-# picture of the screen.
+# photograph_menu.sh PROGRAM FOLDER PNG [ROW [LETTERS]]: on the current display, starts PROGRAM with
+# the preferences in FOLDER/config, opens its menu by a click, waits until nothing turns in it any
+# more, opens the panel of ROW, types LETTERS and takes a picture of the screen.
 set -euo pipefail
 scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-program=$1 folder=$2 output=$3 row=${4-}
+program=$1 folder=$2 output=$3 row=${4-} letters=${5-}
 
 XDG_CONFIG_HOME=$folder/config "$program" >"$folder/program.log" 2>&1 &
 pid=$!
@@ -69,5 +69,9 @@ if [[ $row ]]; then
     xdotool mousemove $middle
     wait_for open_panel
     wait_for menu_at_rest root
+fi
+if [[ $letters ]]; then
+    xdotool type "$letters"
+    sleep 0.5
 fi
 import -window root "png:$output"

@@ -102,7 +102,9 @@ void ApplicationMenu::addRepositoryItem(const std::shared_ptr<RepoViewModel>& re
     row->setText(status->text());
     connect(status, &RepoStatusView::textChanged, row,
             [status, row] { row->setText(status->text()); });
-    menu.addRow(row)->setSubmenu(newPanel(record, applications, menu));
+    HostedRow* const hosted = menu.addRow(row);
+    hosted->setName(record->name());
+    hosted->setSubmenu(newPanel(record, applications, menu));
     menu.addSeparator();
 }
 

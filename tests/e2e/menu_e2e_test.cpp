@@ -99,6 +99,22 @@ private Q_SLOTS:
         QVERIFY(blank(three) != blank(one));
     }
 
+    void typingFindsARow()
+    {
+        QStringList dirs{u"/none/\u00c9clair \u00e9t\u00e9"_s};
+        for (int i = 1; i <= 60; ++i)
+            dirs += u"/none/project "_s + QString::number(i);
+        const RunningProgram program({{u"repos"_s, dirs.join(u'\n')}});
+        for (const auto& [letters, key, row] : {std::tuple(u"clair E"_s, u"Return"_s, dirs.first()),
+                                                {u"57"_s, u"Right"_s, dirs[57]}}) {
+            QVERIFY(openMenu());
+            xdotool({u"type"_s, letters});
+            xdotool({u"key"_s, key});
+            QVERIFY(!appeared(u"Actions for "_s + row.section(u'/', -1)).name.isEmpty());
+            xdotool({u"key"_s, u"Escape"_s, u"Escape"_s});
+        }
+    }
+
     void branchClickChangesNothing()
     {
         const TemporaryRepository repository;

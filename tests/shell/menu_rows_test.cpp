@@ -4,6 +4,7 @@
 #include "shell/menu/key_window.h"
 #include "shell/menu/row_column.h"
 #include "shell/menu/status_menu.h"
+#include "shell/menu/type_ahead_label.h"
 #include "support/test_registry.h"
 
 #include <QLabel>
@@ -198,6 +199,36 @@ private Q_SLOTS:
         QVERIFY(!m_rows[2].panel->isVisible());
         type(Qt::Key_Escape);
         QVERIFY(!m_menu->isVisible());
+    }
+
+    void typedLettersFindANextName()
+    {
+        open(3);
+        m_rows[0].row->setName(u"Kestrel"_s);
+        m_rows[1].row->setName(u"\u00c9clair \u00e9t\u00e9"_s);
+        m_rows[2].row->setName(u"desk"_s);
+        m_rows[1].last->setAccessibleName(u"Push"_s);
+        const auto* const label = m_menu->findChild<TypeAheadLabel*>();
+        for (const auto& [letters, row, shown] : {std::tuple("k", 0, "k"),
+                                                  {"k", 2, "kk"},
+                                                  {"\bclaIR E", 1, "claIR E"},
+                                                  {"q", 1, "claIR Eq"}}) {
+            for (const char* letter = letters; *letter; ++letter)
+                QTest::keyClick(m_menu->windowHandle(), *letter);
+            QCOMPARE(m_menu->activeRow(), m_rows[row].row);
+            QCOMPARE(label->text(), QString::fromLatin1(shown));
+            QVERIFY(label->isVisible());
+        }
+        QTRY_VERIFY(!label->isVisible());
+        m_menu->openSubmenuOf(*m_rows[1].row);
+        type(Qt::Key_E); // the panel is open, but nobody is in it
+        QVERIFY(!m_rows[1].panel->isVisible());
+        QCOMPARE(m_menu->activeRow(), m_rows[2].row);
+        type(Qt::Key_Home);
+        type(Qt::Key_Down);
+        type(Qt::Key_Space);
+        type(Qt::Key_U);
+        QCOMPARE(m_rows[1].panel->focusWidget(), m_rows[1].last);
     }
 
     void refreshPaintsOneRow()

@@ -21,6 +21,10 @@ public:
 
     [[nodiscard]] HostingView& view() const { return *m_view; }
 
+    /// What the row is found by when a part of it is typed.
+    [[nodiscard]] const QString& name() const { return m_name; }
+    void setName(const QString& name) { m_name = name; }
+
     [[nodiscard]] StatusMenu* submenu() const { return m_submenu; }
     /// The row's menu is the parent of `submenu` and owns it.
     void setSubmenu(StatusMenu* submenu) { m_submenu = submenu; }
@@ -44,6 +48,7 @@ protected:
 
 private:
     HostingView* const m_view;
+    QString m_name;
     StatusMenu* m_submenu = nullptr;
     bool m_isActive = false;
     bool m_isPressed = false;

@@ -45,6 +45,7 @@ std::chrono::milliseconds openDelay(const StatusMenu& menu)
 
 MenuInput::MenuInput(StatusMenu& menu)
     : m_menu(menu)
+    , m_typeAhead(menu)
 {
     m_rest.setSingleShot(true);
     connect(&m_rest, &QTimer::timeout, this, [this] {
@@ -63,6 +64,7 @@ void MenuInput::start()
 void MenuInput::stop()
 {
     m_rest.stop();
+    m_typeAhead.clear();
     qApp->removeEventFilter(this);
 }
 
@@ -85,9 +87,7 @@ bool MenuInput::eventFilter(QObject* watched, QEvent* event)
         wheel(*static_cast<QWheelEvent*>(event));
         return true;
     case QEvent::KeyPress:
-        m_rest.stop();
-        pressKey(innermostMenu(), *static_cast<QKeyEvent*>(event));
-        event->accept();
+        press(*static_cast<QKeyEvent*>(event));
         return true;
     default:
         return false;
@@ -184,6 +184,15 @@ bool MenuInput::press(const QWindow& window, QMouseEvent& event)
         new ForwardedPress(*target, event); // owned by the target
     event.accept();
     return true;
+}
+
+void MenuInput::press(QKeyEvent& event)
+{
+    m_rest.stop();
+    StatusMenu& menu = innermostMenu();
+    if (!m_typeAhead.press(menu, event))
+        pressKey(menu, event);
+    event.accept();
 }
 
 void MenuInput::wheel(QWheelEvent& event)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/menu/submenu_path.h"
+#include "shell/menu/type_ahead.h"
 
 #include <QObject>
 #include <QTimer>
@@ -49,11 +50,13 @@ private:
     void hover(StatusMenu& menu, QPoint global);
     void openLater(StatusMenu& menu, HostedRow& row, std::chrono::milliseconds delay);
     [[nodiscard]] bool press(const QWindow& window, QMouseEvent& event);
+    void press(QKeyEvent& event);
     void wheel(QWheelEvent& event);
 
     StatusMenu& m_menu;
     QPoint m_pointer;
     SubmenuPath m_path;
+    TypeAhead m_typeAhead;
 
     /// The row whose submenu opens when the pointer has rested.
     HostedRow* m_awaited = nullptr;

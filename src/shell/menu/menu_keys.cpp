@@ -22,6 +22,7 @@ struct Stop
     QWidget* control = nullptr;
 
     [[nodiscard]] QWidget& widget() const { return control ? *control : *row; }
+    [[nodiscard]] QString name() const { return control ? control->accessibleName() : row->name(); }
 };
 
 enum class Through { Entries, AllControls };
@@ -161,6 +162,25 @@ void pressKey(StatusMenu& menu, const QKeyEvent& key)
     default:
         return;
     }
+}
+
+bool moveToName(StatusMenu& menu, const std::function<bool(const QString&)>& isWanted,
+                SearchFrom from)
+{
+    QList<Stop> stops = stopsOf(menu, Through::Entries);
+    // The buttons at the top of the outermost menu are not what is looked for.
+    if (!menu.parentMenu())
+        stops.removeIf([](const Stop& stop) { return stop.control; });
+    const qsizetype step = from == SearchFrom::Next ? 1 : 0;
+    const qsizetype start = std::max<qsizetype>(0, currentIndex(menu, stops) + step);
+    for (qsizetype i = 0; i < stops.size(); ++i) {
+        const Stop& stop = stops[(start + i) % stops.size()];
+        if (isWanted(stop.name())) {
+            moveTo(menu, stop);
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace tarnwick

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 class QKeyEvent;
+class QString;
 
 namespace tarnwick {
 
@@ -12,5 +15,12 @@ class StatusMenu;
 /// controls; Return and Space press a control or open a submenu, Escape and the arrow back close
 /// one. All other keys do nothing.
 void pressKey(StatusMenu& menu, const QKeyEvent& key);
+
+enum class SearchFrom { Current, Next };
+
+/// Moves to the first row of a menu that has a wanted name, or entry of a panel; the search begins
+/// where the keyboard is or behind that, and goes on from the top. Returns whether there is one.
+bool moveToName(StatusMenu& menu, const std::function<bool(const QString&)>& isWanted,
+                SearchFrom from);
 
 } // namespace tarnwick
