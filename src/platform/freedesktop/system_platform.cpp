@@ -5,6 +5,7 @@
 #include "platform/freedesktop/terminal_launcher.h"
 #include "platform/freedesktop/tray_host.h"
 #include "platform/freedesktop/x11_active_window.h"
+#include "platform/input_grab.h"
 #include "platform/platform.h"
 
 #include <QCoreApplication>
@@ -41,7 +42,11 @@ Platform systemPlatform()
 {
     Platform platform;
     platform.trayHost = std::make_unique<FreedesktopTrayHost>();
-    platform.activeWindow = std::make_unique<X11ActiveWindow>();
+    // A menu that is no popup is activated itself.
+    if (popupsHoldInput())
+        platform.activeWindow = std::make_unique<X11ActiveWindow>();
+    else
+        platform.activeWindow = std::make_unique<ActiveWindow>();
     platform.paletteFollower = std::make_unique<PaletteFollower>();
     platform.terminal = std::make_unique<FreedesktopTerminalLauncher>();
     searchIconsOfApplications();

@@ -97,7 +97,7 @@ bool MenuInput::eventFilter(QObject* watched, QEvent* event)
 StatusMenu* MenuInput::menuAt(QPoint global) const
 {
     StatusMenu* menu = &innermostMenu();
-    while (menu && !menu->geometry().contains(global))
+    while (menu && !menu->area().contains(global))
         menu = menu->parentMenu();
     return menu;
 }
@@ -145,7 +145,7 @@ void MenuInput::hover(StatusMenu& menu, QPoint global)
         m_path.start(global);
         m_rest.stop();
         menu.setActiveRow(row);
-    } else if (submenu && m_path.contains(global, submenu->geometry())) {
+    } else if (submenu && m_path.contains(global, submenu->area())) {
         openLater(menu, *row, restTime);
     } else {
         if (menu.activeRow() != row)

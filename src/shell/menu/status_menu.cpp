@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/menu/status_menu.h"
 
+#include "platform/input_grab.h"
 #include "platform/window_activation.h"
 #include "shell/menu/hosted_row.h"
 #include "shell/menu/hosting_view.h"
@@ -14,30 +15,33 @@
 #include <QApplication>
 #include <QPainter>
 #include <QScreen>
+#include <QStyle>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace tarnwick {
 
 namespace {
 
+using namespace std::chrono_literals;
+
 constexpr int frameWidth = 1;
 constexpr int innerMargin = 6;
 
-bool isWayland()
-{
-    return QGuiApplication::platformName().startsWith(u"wayland");
-}
+/// A panel may hold the input for a moment after a click in a menu of its own.
+constexpr auto grabInterval = 50ms;
+constexpr int grabAttempts = 20;
 
-/// On Wayland a popup needs the input event that it answers, and a click on the panel's item is not
-/// ours: the menu is a plain window there, and its submenus are placed at it like tooltips.
+/// Submenus of a plain window are placed at it like tooltips, which hold no input either.
 Qt::WindowFlags flagsFor(const StatusMenu* parent)
 {
-    if (isWayland())
-        return Qt::FramelessWindowHint | (parent ? Qt::ToolTip : Qt::Window);
-    return Qt::Popup;
+    if (popupsHoldInput())
+        return Qt::Popup;
+    return Qt::FramelessWindowHint | (parent ? Qt::ToolTip : Qt::Window);
 }
 
 } // namespace
@@ -147,8 +151,7 @@ void StatusMenu::popUpBeside(const QRect& anchor, const QList<QRect>& panels)
     m_clicks.opened(pointer, now);
     m_anchor = anchor.isEmpty() ? QRect(pointer, QSize()) : anchor;
     m_panels = panels;
-    Q_EMIT aboutToShow();
-    open();
+    openWhenInputIsFree(grabAttempts);
 }
 
 void StatusMenu::pressedOutside(QPoint global)
@@ -198,23 +201,44 @@ void StatusMenu::paintEvent(QPaintEvent* /*event*/)
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
+void StatusMenu::openWhenInputIsFree(int attempts)
+{
+    if (isVisible() || attempts == 0)
+        return;
+    if (!inputIsFree()) {
+        QTimer::singleShot(grabInterval, this,
+                           [this, attempts] { openWhenInputIsFree(attempts - 1); });
+        return;
+    }
+    Q_EMIT aboutToShow();
+    open();
+}
+
 void StatusMenu::open()
 {
     for (const HostedRow* const row : m_column->rows())
         Q_EMIT row->view().aboutToBeShown();
     m_column->scrollToTop();
     setFocus(Qt::PopupFocusReason);
-    setGeometry(placement());
+    occupy(placement());
     if (m_input)
         m_input->start();
     show();
+}
+
+void StatusMenu::occupy(const QRect& place)
+{
+    // Only a window of one size is left alone by tiling window managers.
+    if (windowType() != Qt::Popup)
+        setFixedSize(place.size());
+    setGeometry(place);
 }
 
 void StatusMenu::fitToRows()
 {
     const QRect place = placement();
     if (place != geometry())
-        setGeometry(place);
+        occupy(place);
     if (StatusMenu* const submenu = openSubmenu())
         submenu->fitToRows();
 }
@@ -225,9 +249,11 @@ QRect StatusMenu::placement() const
     const QSize wanted = m_column->sizeHint().grownBy(margins);
     if (const HostedRow* const row = parentRow()) {
         const int top = row->mapToGlobal(QPoint()).y() - margins.top();
-        return placeSubmenu(parentMenu()->geometry(), top, availableArea(), wanted,
-                            layoutDirection());
+        return placeSubmenu(parentMenu()->area(), top, availableArea(), wanted, layoutDirection());
     }
+    if (windowType() != Qt::Popup)
+        return QStyle::alignedRect(layoutDirection(), Qt::AlignCenter,
+                                   wanted.boundedTo(availableArea().size()), availableArea());
     return placeMenu(m_anchor, availableArea(), wanted);
 }
 
@@ -235,6 +261,13 @@ QRect StatusMenu::availableArea() const
 {
     if (const StatusMenu* const parent = parentMenu())
         return parent->availableArea();
+    if (windowType() != Qt::Popup) {
+        QRect available = screen()->availableGeometry();
+        // On Wayland every window counts as in the upper left corner of the first screen.
+        if (isVisible() && !available.intersects(area()))
+            available.moveTopLeft(area().topLeft());
+        return available;
+    }
     const QScreen* const at = QGuiApplication::screenAt(m_anchor.center());
     const QScreen& shown = at ? *at : *screen();
     // Qt 6.11 does not scale the position of the available geometry.

@@ -42,6 +42,9 @@ public:
     /// The row that this is the submenu of; none for a menu without a parent.
     [[nodiscard]] HostedRow* parentRow() const;
     [[nodiscard]] StatusMenu* openSubmenu() const;
+    /// What the open menu covers, in the coordinates that its events have. On Wayland these are not
+    /// the screen's, and not those of geometry().
+    [[nodiscard]] QRect area() const { return {mapToGlobal(QPoint()), size()}; }
 
     /// The row that is highlighted, or has the keyboard; none at first.
     [[nodiscard]] HostedRow* activeRow() const { return m_activeRow; }
@@ -73,7 +76,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void openWhenInputIsFree(int attempts);
     void open();
+    void occupy(const QRect& place);
     void fitToRows();
     [[nodiscard]] QRect placement() const;
     [[nodiscard]] QRect availableArea() const;
