@@ -186,12 +186,4 @@ void RepoViewModel::setRemoteUrl(QString remoteUrl)
     Q_EMIT remoteUrlChanged();
 }
 
-void refreshAll(const RepoViewModels& models)
-{
-    for (const auto& record : models) {
-        record->refreshStatusInBackground();
-        record->refreshBranch();
-    }
-}
-
 } // namespace tarnwick

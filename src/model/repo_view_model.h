@@ -163,8 +163,4 @@ private:
 
 using RepoViewModels = std::vector<std::shared_ptr<RepoViewModel>>;
 
-/// Starts a status query in the background for each repository of the list, and blocks for its
-/// branch query.
-void refreshAll(const RepoViewModels& models);
-
 } // namespace tarnwick

@@ -115,8 +115,8 @@ void AppDelegate::makeStatusItem()
 {
     m_statusBarItem = std::make_unique<StatusItem>(*m_platform.trayHost);
     connect(m_statusBarItem.get(), &StatusItem::triggered, this, &AppDelegate::openMenu);
-    connect(m_statusBarItem.get(), &StatusItem::refreshAllRequested, this,
-            [this] { refreshAll(m_appMenu->models()); });
+    connect(m_statusBarItem.get(), &StatusItem::refreshAllRequested, m_appMenu.get(),
+            &ApplicationMenu::refreshAll);
     connect(m_statusBarItem.get(), &StatusItem::settingsRequested, this,
             &AppDelegate::openSettings);
 }

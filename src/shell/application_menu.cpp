@@ -75,7 +75,7 @@ void ApplicationMenu::refreshOnOpen()
 void ApplicationMenu::refreshIfEnabled()
 {
     if (m_store.boolForKey(preferences::refreshOnMenuOpen.key))
-        refreshAll(m_models);
+        refreshAll();
 }
 
 void ApplicationMenu::addd()
@@ -83,11 +83,18 @@ void ApplicationMenu::addd()
     writeDiagnosticLine(QStringLiteral("asd"));
 }
 
+void ApplicationMenu::releaseModels()
+{
+    m_models.clear();
+    m_refreshQueue.clear();
+}
+
 void ApplicationMenu::addRefreshRow(StatusMenu& menu) const
 {
     auto controller =
         std::make_unique<StandardUpdaterController>(updateSettings(m_bundle, m_runner), true);
-    auto* const controls = new RefreshView(m_models, std::move(controller), m_bundle);
+    auto* const controls = new RefreshView(std::move(controller), m_bundle);
+    connect(controls, &RefreshView::refreshRequested, this, &ApplicationMenu::refreshAll);
     connect(controls, &RefreshView::settingsRequested, this, &ApplicationMenu::settingsRequested);
     auto* const row = new HostingView(controls);
     row->setText(controls->text());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/refresh_queue.h"
 #include "model/repo_view_model.h"
 
 #include <QList>
@@ -42,12 +43,14 @@ public:
     /// does not keep the menu waiting.
     void refreshOnOpen();
     void refreshIfEnabled();
+    /// Returns at once; see refresh_queue.h.
+    void refreshAll() { m_refreshQueue.add(m_models); }
 
     /// Writes "asd" to standard output: tells whether an action reaches this object.
     void addd();
 
     /// Lets go of the records, which hold this object.
-    void releaseModels() { m_models.clear(); }
+    void releaseModels();
 
 Q_SIGNALS:
     void settingsRequested();
@@ -66,6 +69,7 @@ private:
     PreferencesStore& m_store;
     SettingsHost& m_host;
     RepoViewModels m_models;
+    RefreshQueue m_refreshQueue;
 };
 
 } // namespace tarnwick

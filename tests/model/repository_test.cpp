@@ -4,6 +4,7 @@
 #include "support/test_registry.h"
 #include "support/workbench.h"
 
+#include <QAbstractEventDispatcher>
 #include <QDateTime>
 #include <QThread>
 
@@ -101,7 +102,7 @@ private Q_SLOTS:
                 record.get(), signal, record.get(),
                 [&] { published += QThread::currentThread() == thread(); }, Qt::DirectConnection);
         QTRY_COMPARE(published, 3);
-        refreshAll({record});
+        m_bench.refreshQueue.add({record});
         QTRY_COMPARE(published, 6);
         QCOMPARE(record->gitStatus(), u"1?"_s);
     }
@@ -129,7 +130,8 @@ private Q_SLOTS:
         const CommandRunner noGit{{.git = u"/nonexistent/git"_s}};
         const auto plain = RepoViewModel::create(
             folder.path(), nullptr, {noGit, m_bench.queue, m_bench.terminal, m_bench.store});
-        refreshAll({plain});
+        m_bench.refreshQueue.add({plain});
+        QCoreApplication::processEvents();
         QVERIFY(!plain->isRepo() && !plain->branchString() && !plain->isLoading());
     }
 
@@ -150,15 +152,37 @@ private Q_SLOTS:
             QCOMPARE(watched->isMainBranch(), branch != u"Main");
         }
         repository.run({u"touch n"_s});
-        refreshAll({watched});
+        m_bench.refreshQueue.add({watched});
         QTRY_COMPARE(watched->statusString(), u"1\u00a0untracked"_s);
         QCOMPARE(loading, (QStringList{u"on"_s, u"off"_s, u"on"_s, u"off"_s}));
 
         repository.run({u"rm -rf .git"_s});
-        refreshAll({watched});
+        m_bench.refreshQueue.add({watched});
         QTRY_COMPARE(watched->branchString(), QString());
         QTRY_VERIFY(!watched->statusString());
         QVERIFY(watched->isRepo());
+    }
+
+    void refreshLetsTheEventLoopRun()
+    {
+        const TemporaryRepository repository;
+        const RepoViewModels records{m_bench.record(repository.dir()),
+                                     m_bench.record(repository.dir() + u'/')};
+        QTRY_VERIFY(records[0]->branchString() && records[1]->branchString());
+        int turn = 0;
+        connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this,
+                [&] { ++turn; });
+        QList<int> turns;
+        QStringList refreshed;
+        for (const auto& record : records)
+            connect(record.get(), &RepoViewModel::branchStringChanged, this, [&] {
+                refreshed += record->name();
+                turns += turn;
+            });
+        m_bench.refreshQueue.add(records);
+        m_bench.refreshQueue.add({records[0]});
+        QTRY_COMPARE(refreshed, (QStringList{u"repo"_s, {}, u"repo"_s}));
+        QVERIFY(turns[0] < turns[1] && turns[1] < turns[2]);
     }
 
 private:

@@ -10,10 +10,13 @@
 #include "shell/menu/status_menu.h"
 #include "shell/status_item.h"
 #include "support/recording_login_services.h"
+#include "support/temporary_repository.h"
 #include "support/test_registry.h"
 #include "support/workbench.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QSignalSpy>
 
 using namespace tarnwick::test;
 
@@ -51,7 +54,8 @@ private Q_SLOTS:
         const BundleInfo bundle{{{u"CFBundleVersion"_s, u"42"_s}}};
         platform.loginServices = std::make_unique<RecordingLoginServices>();
         Workbench bench;
-        bench.store.setObject(u"/nonexistent/a"_s, u"repos"_s);
+        const TemporaryRepository repository;
+        bench.store.setObject(repository.dir(), u"repos"_s);
         AppDelegate delegate(platform, bundle, bench.store, bench.services());
         QVERIFY(!AppDelegate::shared());
         delegate.applicationDidFinishLaunching();
@@ -59,6 +63,14 @@ private Q_SLOTS:
 
         Q_EMIT delegate.statusBarItem().triggered(QRect(600, 0, 24, 24));
         QTRY_COMPARE(menusVisible(), 1);
+        const QSignalSpy branches(delegate.appMenu().models()[0].get(),
+                                  &RepoViewModel::branchStringChanged);
+        QTRY_COMPARE(branches.size(), 1);
+        for (auto* const widget : QApplication::allWidgets()) {
+            if (widget->accessibleName() == u"Refresh all repositories")
+                qobject_cast<QAbstractButton*>(widget)->click();
+        }
+        QTRY_COMPARE(branches.size(), 2);
         delegate.repoManager().add(u"/nonexistent/b"_s, nullptr);
         QCOMPARE(delegate.appMenu().models().size(), 1);
         delegate.rebuildMenu();

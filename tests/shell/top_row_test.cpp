@@ -2,7 +2,6 @@
 #include "model/bundle_info.h"
 #include "shell/top_row/refresh_view.h"
 #include "shell/updates/updater.h"
-#include "support/temporary_repository.h"
 #include "support/test_registry.h"
 #include "support/workbench.h"
 
@@ -18,10 +17,7 @@ class TopRowTest : public QObject
 private Q_SLOTS:
     void buttonsDoWhatTheirNamesSay()
     {
-        const TemporaryRepository repository;
-        const auto record = m_bench.record(repository.dir());
-        QTRY_VERIFY(record->gitStatus() && !record->isLoading());
-        RefreshView row({record}, stoppedUpdater(), bundle(u"7"_s));
+        RefreshView row(stoppedUpdater(), bundle(u"7"_s));
         row.show();
         QCOMPARE(row.text(), u"Tarnwick 7"_s);
         const auto buttons = row.findChildren<QPushButton*>();
@@ -31,12 +27,11 @@ private Q_SLOTS:
             QCOMPARE(buttons[i]->accessibleName(), names[i]);
             QVERIFY(i == 0 || buttons[i]->x() > buttons[i - 1]->geometry().right());
         }
-        QSignalSpy loading(record.get(), &RepoViewModel::isLoadingChanged);
+        const QSignalSpy refresh(&row, &RefreshView::refreshRequested);
         buttons[1]->click();
-        QTRY_COMPARE(loading.size(), 2);
-        QSignalSpy settings(&row, &RefreshView::settingsRequested);
+        const QSignalSpy settings(&row, &RefreshView::settingsRequested);
         buttons[2]->click();
-        QCOMPARE(settings.size(), 1);
+        QVERIFY(refresh.size() == 1 && settings.size() == 1);
         QVERIFY(!buttons[0]->isEnabled());
         m_updater->start();
         QVERIFY(buttons[0]->isEnabled());
@@ -44,7 +39,7 @@ private Q_SLOTS:
 
     void widthNeverChanges()
     {
-        RefreshView row({}, stoppedUpdater(), bundle(QString(60, u'1')));
+        RefreshView row(stoppedUpdater(), bundle(QString(60, u'1')));
         row.show();
         QFont font;
         font.setPointSize(22);

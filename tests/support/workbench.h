@@ -4,6 +4,7 @@
 #include "model/background_queue.h"
 #include "model/command_runner.h"
 #include "model/preferences_store.h"
+#include "model/refresh_queue.h"
 #include "model/repo_view_model.h"
 #include "platform/terminal_launcher.h"
 
@@ -38,6 +39,7 @@ struct Workbench
     RecordingTerminal terminal;
     CommandRunner runner{{}};
     BackgroundQueue queue;
+    RefreshQueue refreshQueue;
 };
 
 } // namespace tarnwick::test

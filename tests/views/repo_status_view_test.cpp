@@ -61,7 +61,7 @@ private Q_SLOTS:
         QCOMPARE(row->sizeHint().width(), 340);
 
         repository.run({u"git checkout -q -b feature/x; echo x >> a; echo x >> b; git add b"_s});
-        refreshAll({m_record});
+        m_bench->refreshQueue.add({m_record});
         QTRY_COMPARE(shownTexts(*row),
                      (QStringList{u"repo"_s, u"feature/x"_s, u"1 change 1 staged"_s}));
         QCOMPARE(row->text(), u"repo, branch feature/x, 1 change, 1 staged"_s);
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QTRY_VERIFY(row->sizeHint().height() < cleanHeight);
 
         repository.run({u"touch n"_s});
-        refreshAll({m_record});
+        m_bench->refreshQueue.add({m_record});
         QTRY_VERIFY(shownTexts(*row).contains(u"1 untracked"_s));
         m_bench->store.setBool(true, u"onyIcons"_s);
         QVERIFY(shownTexts(*row).contains(u"1"_s));

@@ -23,11 +23,9 @@ constexpr int nameSize = 10;
 
 } // namespace
 
-RefreshView::RefreshView(RepoViewModels models,
-                         std::unique_ptr<StandardUpdaterController> updaterController,
+RefreshView::RefreshView(std::unique_ptr<StandardUpdaterController> updaterController,
                          const BundleInfo& bundle, QWidget* parent)
     : QWidget(parent)
-    , m_models(std::move(models))
     , m_updaterController(std::move(updaterController))
     , m_buildNumber(bundle.requiredText(QStringLiteral("CFBundleVersion")))
     , m_name(new TextLine(this))
@@ -63,7 +61,7 @@ void RefreshView::layOut()
 {
     auto* const update = new CheckForUpdatesView(m_updaterController->updater(), this);
     auto* const refresh = new GlyphButton(glyph::refresh, tr("Refresh all repositories"), this);
-    connect(refresh, &QAbstractButton::clicked, this, [this] { refreshAll(m_models); });
+    connect(refresh, &QAbstractButton::clicked, this, &RefreshView::refreshRequested);
     auto* const settings = new GlyphButton(glyph::settings, tr("Settings"), this);
     connect(settings, &QAbstractButton::clicked, this, &RefreshView::settingsRequested);
     auto* const quit = new GlyphButton(glyph::quit, tr("Quit Tarnwick"), this);

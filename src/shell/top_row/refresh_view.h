@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/repo_view_model.h"
-
 #include <QWidget>
 
 #include <memory>
@@ -21,7 +19,7 @@ class RefreshView : public QWidget
     Q_OBJECT
 
 public:
-    RefreshView(RepoViewModels models, std::unique_ptr<StandardUpdaterController> updaterController,
+    RefreshView(std::unique_ptr<StandardUpdaterController> updaterController,
                 const BundleInfo& bundle, QWidget* parent = nullptr);
     ~RefreshView() override;
 
@@ -30,6 +28,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:
+    void refreshRequested();
     void settingsRequested();
 
 protected:
@@ -40,7 +39,6 @@ private:
     void setFonts();
     void render();
 
-    const RepoViewModels m_models;
     const std::unique_ptr<StandardUpdaterController> m_updaterController;
     const QString m_buildNumber;
     TextLine* m_name;
