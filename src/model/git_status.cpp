@@ -3,16 +3,14 @@
 
 #include "model/diagnostics.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
-#include <array>
 
 namespace tarnwick {
 
 namespace {
 
 constexpr QChar noBreakSpace(u'\u00A0');
+const QString bothCode = QStringLiteral("MM ");
 
 QString trimBlanks(const QString& piece)
 {
@@ -26,33 +24,118 @@ QString trimBlanks(const QString& piece)
     return piece.mid(first, last - first);
 }
 
-SummaryPart makePart(qsizetype count, const QString& word)
+/// Reads all that the summary counts in one pass over the text.
+class StatusCounts
 {
-    if (count == 0)
-        return std::nullopt;
-    return QString::number(count) + noBreakSpace + word;
+public:
+    explicit StatusCounts(QStringView text)
+        : m_text(text)
+    {
+        countLine(0);
+        for (qsizetype i = 0; i < m_text.size(); ++i) {
+            switch (m_text[i].unicode()) {
+            case u'\n':
+                countLine(i + 1);
+                break;
+            case u'M':
+                countCodes(i);
+                break;
+            case u'd':
+                readCommits(i + 1);
+                break;
+            default:
+                break;
+            }
+        }
+    }
+
+    qsizetype changes = 0;
+    qsizetype added = 0;
+    qsizetype untracked = 0;
+    qsizetype staged = 0;
+    qsizetype removed = 0;
+    qsizetype deleted = 0;
+    /// As the header has them: "2" for "[ahead 2]". Empty if there are none.
+    QStringView behind;
+    QStringView ahead;
+
+private:
+    void countLine(qsizetype start)
+    {
+        const QStringView line = m_text.sliced(start);
+        added += line.startsWith(u"A  ");
+        untracked += line.startsWith(u"??");
+        removed += line.startsWith(u" D");
+        deleted += line.startsWith(u"D  ");
+    }
+
+    /// " M " and "MM " are changes, "M  " and "MM " are staged, wherever they stand. Where two of
+    /// them overlap, the first of that order counts; where one overlaps itself, the left one does.
+    void countCodes(qsizetype position)
+    {
+        const QStringView text = m_text.sliced(position);
+        if (text.startsWith(u"MM ")) {
+            changes += !text.startsWith(u"MM M ");
+            staged += !text.startsWith(u"MM  ");
+        }
+        staged += text.startsWith(u"M  ");
+        const qsizetype blank = position - 1;
+        if (blank >= m_endOfChange && m_text[blank] == u' ' && text.startsWith(u"M ")) {
+            ++changes;
+            m_endOfChange = position + 2;
+        }
+    }
+
+    /// The number after a word that ends here, with its blanks less one. The first in the text
+    /// counts.
+    void readCommits(qsizetype end)
+    {
+        const QStringView text = m_text.first(end);
+        QStringView* const commits = text.endsWith(u"behind")  ? &behind
+                                     : text.endsWith(u"ahead") ? &ahead
+                                                               : nullptr;
+        if (!commits || !commits->isEmpty())
+            return;
+        const QStringView rest = m_text.sliced(end);
+        const auto* const number = std::find_if_not(rest.begin(), rest.end(), isAsciiSpace);
+        const auto* const numberEnd = std::find_if_not(number, rest.end(), isAsciiDigit);
+        if (number != rest.begin() && numberEnd != number)
+            *commits = QStringView(rest.begin() + 1, numberEnd);
+    }
+
+    static bool isAsciiSpace(QChar c) { return c == u' ' || (c >= u'\t' && c <= u'\r'); }
+    static bool isAsciiDigit(QChar c) { return c >= u'0' && c <= u'9'; }
+
+    const QStringView m_text;
+    qsizetype m_endOfChange = 0;
+};
+
+/// Calls `read` for each line after the header that a line feed ends, until it returns false.
+template <typename Read>
+void forEachPathLine(QStringView gitStatus, Read read)
+{
+    qsizetype start = gitStatus.indexOf(u'\n') + 1;
+    if (start == 0)
+        stopProcess();
+    for (qsizetype end = 0; (end = gitStatus.indexOf(u'\n', start)) >= 0; start = end + 1) {
+        if (!read(gitStatus.sliced(start, end - start)))
+            return;
+    }
 }
 
-qsizetype countOccurrences(const QString& gitStatus, const QStringList& codes)
+SummaryPart counted(const QString& count, const QString& word)
 {
-    return components2(gitStatus, codes).size() - 1;
+    return count + noBreakSpace + word;
 }
 
-qsizetype countLinesStartingWith(const QString& gitStatus, QStringView code)
+SummaryPart counted(qsizetype count, const QString& word)
 {
-    const auto lines = QStringView(gitStatus).split(u'\n', Qt::SkipEmptyParts);
-    return std::count_if(lines.cbegin(), lines.cend(),
-                         [code](QStringView line) { return line.startsWith(code); });
+    return count > 0 ? counted(QString::number(count), word) : std::nullopt;
 }
 
-/// The header counts commits as in "[ahead 2, behind 1]".
-SummaryPart headerCount(const QString& gitStatus, const QString& word)
+SummaryPart counted(QStringView count, const QString& word)
 {
-    const QRegularExpression counted(word + QStringLiteral("\\s+(\\d+)"));
-    const auto match = counted.match(gitStatus);
-    if (!match.hasMatch())
-        return std::nullopt;
-    return match.captured().mid(word.size() + 1) + noBreakSpace + word;
+    return count.isEmpty() ? std::nullopt : counted(count.toString(), word);
 }
 
 } // namespace
@@ -70,82 +153,60 @@ QStringList components2(const QString& text, const QStringList& separators)
     return pieces;
 }
 
-SummaryPart changesString(const QString& gitStatus)
+SummaryParts summaryParts(const QString& gitStatus)
 {
-    const auto count = countOccurrences(gitStatus, {QStringLiteral(" M "), QStringLiteral("MM ")});
-    return makePart(count, count == 1 ? QStringLiteral("change") : QStringLiteral("changes"));
-}
-
-SummaryPart behindString(const QString& gitStatus)
-{
-    return headerCount(gitStatus, QStringLiteral("behind"));
-}
-
-SummaryPart aheadString(const QString& gitStatus)
-{
-    return headerCount(gitStatus, QStringLiteral("ahead"));
-}
-
-SummaryPart addedString(const QString& gitStatus)
-{
-    return makePart(countLinesStartingWith(gitStatus, u"A  "), QStringLiteral("added"));
-}
-
-SummaryPart untrackedString(const QString& gitStatus)
-{
-    return makePart(countLinesStartingWith(gitStatus, u"??"), QStringLiteral("untracked"));
-}
-
-SummaryPart stagedString(const QString& gitStatus)
-{
-    const auto count = countOccurrences(gitStatus, {QStringLiteral("M  "), QStringLiteral("MM ")});
-    return makePart(count, QStringLiteral("staged"));
-}
-
-SummaryPart removedString(const QString& gitStatus)
-{
-    return makePart(countLinesStartingWith(gitStatus, u" D"), QStringLiteral("removed"));
-}
-
-SummaryPart deletedString(const QString& gitStatus)
-{
-    return makePart(countLinesStartingWith(gitStatus, u"D  "), QStringLiteral("deleted"));
+    const StatusCounts counts(gitStatus);
+    return {
+        .changes = counted(counts.changes, counts.changes == 1 ? QStringLiteral("change")
+                                                               : QStringLiteral("changes")),
+        .behind = counted(counts.behind, QStringLiteral("behind")),
+        .ahead = counted(counts.ahead, QStringLiteral("ahead")),
+        .added = counted(counts.added, QStringLiteral("added")),
+        .untracked = counted(counts.untracked, QStringLiteral("untracked")),
+        .staged = counted(counts.staged, QStringLiteral("staged")),
+        .removed = counted(counts.removed, QStringLiteral("removed")),
+        .deleted = counted(counts.deleted, QStringLiteral("deleted")),
+    };
 }
 
 std::optional<QString> statusSummary(const QString& gitStatus)
 {
-    constexpr std::array partFunctions{changesString,   behindString, aheadString,   addedString,
-                                       untrackedString, stagedString, removedString, deletedString};
-    QStringList parts;
-    for (const auto partFunction : partFunctions) {
-        if (const auto text = partFunction(gitStatus))
-            parts += *text;
+    const SummaryParts parts = summaryParts(gitStatus);
+    QStringList texts;
+    for (const SummaryPart& part : {parts.changes, parts.behind, parts.ahead, parts.added,
+                                    parts.untracked, parts.staged, parts.removed, parts.deleted}) {
+        if (part)
+            texts += *part;
     }
-    if (parts.isEmpty())
+    if (texts.isEmpty())
         return std::nullopt;
-    return parts.join(QStringLiteral(", "));
+    return texts.join(QStringLiteral(", "));
 }
 
-QStringList changedFiles(const QString& gitStatus)
+QStringList changedFiles(const QString& gitStatus, qsizetype limit)
 {
-    QStringList lines = gitStatus.split(u'\n');
-    if (lines.size() < 2)
-        stopProcess();
-    lines.removeFirst();
-    lines.removeLast();
-
-    const QString both = QStringLiteral("MM ");
     QStringList otherLines;
     QStringList splitLines;
-    for (const QString& line : std::as_const(lines)) {
-        if (!line.startsWith(both)) {
-            otherLines += line;
-            continue;
+    forEachPathLine(gitStatus, [&](QStringView line) {
+        if (!line.startsWith(bothCode)) {
+            otherLines += line.toString();
+        } else if (splitLines.size() < limit) {
+            splitLines += line.toString().replace(bothCode, QStringLiteral("M  "));
+            splitLines += line.toString().replace(bothCode, QStringLiteral(" M "));
         }
-        splitLines += QString(line).replace(both, QStringLiteral("M  "));
-        splitLines += QString(line).replace(both, QStringLiteral(" M "));
-    }
-    return otherLines + splitLines;
+        return otherLines.size() < limit;
+    });
+    return (otherLines + splitLines).mid(0, limit);
+}
+
+qsizetype changedFileCount(const QString& gitStatus)
+{
+    qsizetype count = 0;
+    forEachPathLine(gitStatus, [&](QStringView line) {
+        count += line.startsWith(bothCode) ? 2 : 1;
+        return true;
+    });
+    return count;
 }
 
 } // namespace tarnwick

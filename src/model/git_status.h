@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <limits>
 #include <optional>
 
 /// Reading of git's short status with branch header (`git status -sb`, "Short Format" in
@@ -21,22 +22,31 @@ namespace tarnwick {
 /// One part of the summary: a decimal count, a no-break space and a word; nothing for a count of 0.
 using SummaryPart = std::optional<QString>;
 
-[[nodiscard]] SummaryPart changesString(const QString& gitStatus);
-[[nodiscard]] SummaryPart behindString(const QString& gitStatus);
-[[nodiscard]] SummaryPart aheadString(const QString& gitStatus);
-[[nodiscard]] SummaryPart addedString(const QString& gitStatus);
-[[nodiscard]] SummaryPart untrackedString(const QString& gitStatus);
-[[nodiscard]] SummaryPart stagedString(const QString& gitStatus);
-[[nodiscard]] SummaryPart removedString(const QString& gitStatus);
-[[nodiscard]] SummaryPart deletedString(const QString& gitStatus);
+/// In the order of the summary.
+struct SummaryParts
+{
+    SummaryPart changes;
+    SummaryPart behind;
+    SummaryPart ahead;
+    SummaryPart added;
+    SummaryPart untracked;
+    SummaryPart staged;
+    SummaryPart removed;
+    SummaryPart deleted;
+};
 
-/// All parts that apply, in the order of the declarations above, joined by ", "; nothing for a
-/// clean working tree that is level with its upstream.
+[[nodiscard]] SummaryParts summaryParts(const QString& gitStatus);
+
+/// All parts that apply, joined by ", "; nothing for a clean working tree that is level with its
+/// upstream.
 [[nodiscard]] std::optional<QString> statusSummary(const QString& gitStatus);
 
-/// The status lines of the changed paths. A path changed both in the index and in the working tree
-/// ("MM ") stands at the end as two lines, staged ("M  ") and changed (" M "). Stops the process
-/// for a text without any line feed, which is no status.
-[[nodiscard]] QStringList changedFiles(const QString& gitStatus);
+/// The status lines of the changed paths, up to a limit. A path changed both in the index and in
+/// the working tree ("MM ") stands at the end as two lines, staged ("M  ") and changed (" M ").
+/// Stops the process for a text without any line feed, which is no status.
+[[nodiscard]] QStringList changedFiles(const QString& gitStatus,
+                                       qsizetype limit = std::numeric_limits<qsizetype>::max());
+/// How many `changedFiles()` returns without a limit.
+[[nodiscard]] qsizetype changedFileCount(const QString& gitStatus);
 
 } // namespace tarnwick

@@ -109,9 +109,14 @@ void RepoViewModel::applyStatus(const QString& text)
     setIsLoading(false);
 }
 
-QStringList RepoViewModel::changedFiles() const
+QStringList RepoViewModel::changedFiles(qsizetype limit) const
 {
-    return m_gitStatus ? tarnwick::changedFiles(*m_gitStatus) : QStringList();
+    return m_gitStatus ? tarnwick::changedFiles(*m_gitStatus, limit) : QStringList();
+}
+
+qsizetype RepoViewModel::changedFileCount() const
+{
+    return m_gitStatus ? tarnwick::changedFileCount(*m_gitStatus) : 0;
 }
 
 void RepoViewModel::push() const

@@ -10,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <limits>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -87,15 +88,17 @@ public:
     void refreshStatusInBackground();
 
     // Read from `gitStatus`; see git_status.h.
-    [[nodiscard]] SummaryPart changesString() const { return tarnwick::changesString(raw()); }
-    [[nodiscard]] SummaryPart behindString() const { return tarnwick::behindString(raw()); }
-    [[nodiscard]] SummaryPart aheadString() const { return tarnwick::aheadString(raw()); }
-    [[nodiscard]] SummaryPart addedString() const { return tarnwick::addedString(raw()); }
-    [[nodiscard]] SummaryPart untrackedString() const { return tarnwick::untrackedString(raw()); }
-    [[nodiscard]] SummaryPart stagedString() const { return tarnwick::stagedString(raw()); }
-    [[nodiscard]] SummaryPart removedString() const { return tarnwick::removedString(raw()); }
-    [[nodiscard]] SummaryPart deletedString() const { return tarnwick::deletedString(raw()); }
-    [[nodiscard]] QStringList changedFiles() const;
+    [[nodiscard]] SummaryPart changesString() const { return summaryParts(raw()).changes; }
+    [[nodiscard]] SummaryPart behindString() const { return summaryParts(raw()).behind; }
+    [[nodiscard]] SummaryPart aheadString() const { return summaryParts(raw()).ahead; }
+    [[nodiscard]] SummaryPart addedString() const { return summaryParts(raw()).added; }
+    [[nodiscard]] SummaryPart untrackedString() const { return summaryParts(raw()).untracked; }
+    [[nodiscard]] SummaryPart stagedString() const { return summaryParts(raw()).staged; }
+    [[nodiscard]] SummaryPart removedString() const { return summaryParts(raw()).removed; }
+    [[nodiscard]] SummaryPart deletedString() const { return summaryParts(raw()).deleted; }
+    [[nodiscard]] QStringList
+    changedFiles(qsizetype limit = std::numeric_limits<qsizetype>::max()) const;
+    [[nodiscard]] qsizetype changedFileCount() const;
 
     /// Whether the branch is a main line of development, by its name.
     [[nodiscard]] bool isMainBranch() const;

@@ -3,6 +3,9 @@
 #include "model/git_status.h"
 #include "support/test_registry.h"
 
+#include <QRandomGenerator>
+#include <QRegularExpression>
+
 using namespace tarnwick::test;
 
 class GitStatusTest : public QObject
@@ -85,10 +88,58 @@ private Q_SLOTS:
         QTEST(unquotedGitPath(quoted), "path");
     }
 
+    /// In texts made of what is looked for.
+    void onePassCountsLikeOneRuleAfterTheOther()
+    {
+        const QStringList pieces{u" "_s,   u"M"_s,      u"MM "_s,    u"\n"_s,    u"A  "_s,
+                                 u"D  "_s, u"??"_s,     u"behind"_s, u"ahead"_s, u"12"_s,
+                                 u"\t"_s,  u"\u00a0"_s, u"d"_s};
+        QRandomGenerator random(1);
+        for (int round = 0; round < 2000; ++round) {
+            QString text;
+            for (int i = random.bounded(40); i > 0; --i)
+                text += pieces[random.bounded(pieces.size())];
+            QCOMPARE(statusSummary(text).value_or(QString()), slowSummary(text));
+            const QStringList files = changedFiles(text.prepend(u"## x\n"_s));
+            QCOMPARE(changedFiles(text, 2), files.mid(0, 2));
+            QCOMPARE(changedFileCount(text), files.size());
+        }
+    }
+
     void piecesAreTrimmedAndKept()
     {
         QCOMPARE(components2(u"-a \t- b\n+c-"_s, {u"-"_s, u"+"_s}),
                  (QStringList{{}, u"a"_s, u"b\n"_s, u"c"_s, {}}));
+    }
+
+private:
+    static QString slowSummary(const QString& text)
+    {
+        const auto codes = [&](const QString& first) {
+            return QString::number(components2(text, {first, u"MM "_s}).size() - 1);
+        };
+        const auto commits = [&](const QString& word) {
+            const auto match = QRegularExpression(word + u"\\s+(\\d+)"_s).match(text);
+            return match.captured().mid(word.size() + 1);
+        };
+        const auto lines = [&](const QString& pattern) {
+            return QString::number(text.split(u'\n').filter(QRegularExpression(pattern)).size());
+        };
+        const QString changes = codes(u" M "_s);
+        QStringList parts;
+        for (const auto& [count, word] :
+             {std::pair(changes, changes == u"1" ? u"change"_s : u"changes"_s),
+              {commits(u"behind"_s), u"behind"_s},
+              {commits(u"ahead"_s), u"ahead"_s},
+              {lines(u"^A  "_s), u"added"_s},
+              {lines(u"^\\?\\?"_s), u"untracked"_s},
+              {codes(u"M  "_s), u"staged"_s},
+              {lines(u"^ D"_s), u"removed"_s},
+              {lines(u"^D  "_s), u"deleted"_s}}) {
+            if (!count.isEmpty() && count != u"0")
+                parts += count + QChar::Nbsp + word;
+        }
+        return parts.join(u", "_s);
     }
 };
 

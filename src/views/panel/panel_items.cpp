@@ -7,8 +7,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-
 namespace tarnwick {
 
 namespace {
@@ -75,18 +73,17 @@ public:
 
     void addChangedFiles()
     {
-        const QStringList lines = m_vm.changedFiles();
-        if (lines.isEmpty())
+        const qsizetype count = m_vm.changedFileCount();
+        if (count == 0)
             return;
         addDivider();
-        for (const QString& line : lines.first(std::min(lines.size(), maxChangedFiles))) {
+        for (const QString& line : m_vm.changedFiles(maxChangedFiles)) {
             const FileLineEntry entry = fileLineEntry(line, appearanceOf(m_palette));
             addSmall(Kind::ChangedFile, entry.symbol, entry.title, m_vm.dir() + u'/' + entry.path);
             m_items.back().button.color = entry.color;
         }
-        if (lines.size() > maxChangedFiles) {
-            add(Kind::Overflow, {}, tr("... %1 more").arg(lines.size() - maxChangedFiles),
-                m_vm.dir());
+        if (count > maxChangedFiles) {
+            add(Kind::Overflow, {}, tr("... %1 more").arg(count - maxChangedFiles), m_vm.dir());
             m_items.back().button.color = secondaryLabelColor(m_palette);
         }
     }
