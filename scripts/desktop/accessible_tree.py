@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """accessible_tree.py NAME: what assistive technology finds in the running application NAME.
 
-Prints one line for each item that is showing: left, top, width, height, role and name, with tabs
-between them. What a named control or a row consists of is left out, but for a row's open submenu.
+Prints one line for each item that is showing: left, top, width, height, role, name and description,
+with tabs between them. What a named control or a row consists of is left out, but for a row's open submenu.
 A "push button", as older accessibility libraries call it, is a "button".
 """
 import sys
@@ -29,7 +29,7 @@ def walk(item):
         role = role_of(item)
         if item.get_state_set().contains(Atspi.StateType.SHOWING):
             area = item.get_extents(Atspi.CoordType.SCREEN)
-            print(area.x, area.y, area.width, area.height, role, name, sep="\t")
+            print(area.x, area.y, area.width, area.height, role, name, item.get_description(), sep="\t")
         if name and role not in HOLDERS and role != "menu item":
             return
         children = [item.get_child_at_index(i) for i in range(item.get_child_count())]

@@ -109,6 +109,9 @@ void ApplicationMenu::addRepositoryItem(const std::shared_ptr<RepoViewModel>& re
     row->setText(status->text());
     connect(status, &RepoStatusView::textChanged, row,
             [status, row] { row->setText(status->text()); });
+    row->setDescription([status] { return status->description(); });
+    connect(record.get(), &RepoViewModel::statusStringChanged, row,
+            &HostingView::descriptionChanged);
     HostedRow* const hosted = menu.addRow(row);
     hosted->setName(record->name());
     hosted->setSubmenu(newPanel(record, applications, menu));

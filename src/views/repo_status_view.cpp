@@ -3,6 +3,7 @@
 
 #include "model/diagnostics.h"
 #include "model/repo_view_model.h"
+#include "model/status_details.h"
 #include "views/colors.h"
 #include "views/picture_view.h"
 #include "views/row_metrics.h"
@@ -91,6 +92,23 @@ QString RepoStatusView::text() const
         else if (m_showCleanRepoStatus.value())
             parts += tr("Repo is clean");
     }
+    return parts.join(QStringLiteral(", "));
+}
+
+QString RepoStatusView::description() const
+{
+    const StatusDetails details = statusDetails(m_vm->gitStatus().value_or(QString()));
+    QStringList parts;
+    if (details.conflicts > 0)
+        parts += tr("%1 in conflict").arg(details.conflicts);
+    if (details.renames > 0)
+        parts += tr("%1 renamed").arg(details.renames);
+    if (details.isDetached)
+        parts += tr("detached head");
+    if (details.lacksUpstream)
+        parts += tr("no upstream");
+    if (details.isUpstreamGone)
+        parts += tr("upstream gone");
     return parts.join(QStringLiteral(", "));
 }
 

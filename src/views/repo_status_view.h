@@ -28,6 +28,8 @@ public:
 
     /// All that the row says, as one plain sentence without glyphs.
     [[nodiscard]] QString text() const;
+    /// What git says beyond that, in words; empty if there is nothing. Reads the whole status.
+    [[nodiscard]] QString description() const;
 
     [[nodiscard]] QSize sizeHint() const override;
 

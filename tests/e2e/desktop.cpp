@@ -82,7 +82,8 @@ QList<Accessible> accessibleTree()
         const QStringList parts = line.split(u'\t');
         tree.append({{parts[0].toInt(), parts[1].toInt(), parts[2].toInt(), parts[3].toInt()},
                      parts[4],
-                     parts.value(5)});
+                     parts.value(5),
+                     parts.value(6)});
     }
     return tree;
 }

@@ -14,6 +14,7 @@ struct Accessible
     QRect area;
     QString role;
     QString name;
+    QString description;
 };
 
 /// The program as installed, started on the current display with preferences of its own and in an

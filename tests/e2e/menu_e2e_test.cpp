@@ -21,7 +21,7 @@ private Q_SLOTS:
     void rowsFollowTheList()
     {
         const TemporaryRepository dirty(u"dirty it's"_s);
-        dirty.run({u"git checkout -q -b feature/x; touch new; echo x >> a"_s});
+        dirty.run({u"git checkout -q -b feature/x; touch new; echo x >> a; git mv b z"_s});
         const TemporaryRepository clean(u"clean"_s);
         RunningProgram program(
             {{u"repos"_s,
@@ -32,6 +32,7 @@ private Q_SLOTS:
             (QStringList{u"dirty it's, branch feature/x, 1 change, 1 untracked"_s, u"plain"_s,
                          u"clean, branch main, Repo is clean"_s}),
             10000);
+        QTRY_COMPARE(accessibleNamed(u"dirty"_s).description, u"1 renamed, no upstream"_s);
         // Directly below the panel, one row under the other, all of it on the screen.
         const QRect first = accessibleNamed(u"dirty"_s).area;
         const QRect last = accessibleNamed(u"clean"_s).area;

@@ -76,6 +76,32 @@ private Q_SLOTS:
         QCOMPARE(row->sizeHint().width(), 340);
     }
 
+    void describesWhatTheSummaryHasNoWordFor_data()
+    {
+        const QString commit = u"echo %1 > a; git commit -qam %1"_s;
+        const QString upstream = u"git branch -q up; git branch -q -u up"_s;
+        const auto row = table<QStringList, QString>("commands", "expected");
+        row("conflict",
+            {u"git checkout -q -b x"_s, commit.arg(u"x"), u"git checkout -q main"_s,
+             commit.arg(u"y"), u"! git merge -q x"_s},
+            u"1 in conflict, no upstream"_s);
+        row("renames", {upstream, u"git mv a RR; git mv b z"_s}, u"2 renamed"_s);
+        row("detached", {u"git checkout -q --detach"_s}, u"detached head"_s);
+        row("gone", {upstream, u"git branch -q -D up"_s}, u"upstream gone"_s);
+        row("no commit", {u"rm -rf .git; git init -q -b main"_s}, u"no upstream"_s);
+        row("refused", {u"echo broken > .git/HEAD"_s}, {});
+    }
+
+    void describesWhatTheSummaryHasNoWordFor()
+    {
+        QFETCH(QStringList, commands);
+        const TemporaryRepository repository;
+        repository.run(commands);
+        const auto row = shownRow(repository.dir());
+        QTRY_VERIFY(m_record->gitStatus());
+        QTEST(row->description(), "expected");
+    }
+
     void optionsApplyAtOnce()
     {
         const TemporaryRepository repository;

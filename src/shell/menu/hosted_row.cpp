@@ -27,10 +27,14 @@ HostedRow::HostedRow(HostingView* view, QWidget* parent)
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(view);
-    connect(view, &HostingView::textChanged, this, [this] {
-        QAccessibleEvent renamed(this, QAccessible::NameChanged);
-        QAccessible::updateAccessibility(&renamed);
-    });
+    const auto announce = [this](QAccessible::Event change) {
+        QAccessibleEvent event(this, change);
+        QAccessible::updateAccessibility(&event);
+    };
+    connect(view, &HostingView::textChanged, this,
+            [announce] { announce(QAccessible::NameChanged); });
+    connect(view, &HostingView::descriptionChanged, this,
+            [announce] { announce(QAccessible::DescriptionChanged); });
 }
 
 void HostedRow::setActive(bool active)

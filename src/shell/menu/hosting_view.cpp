@@ -6,6 +6,8 @@
 #include <QShowEvent>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace tarnwick {
 
 HostingView::HostingView(QWidget* rootView, QWidget* parent)
@@ -23,6 +25,11 @@ void HostingView::setText(const QString& text)
         return;
     m_text = text;
     Q_EMIT textChanged();
+}
+
+void HostingView::setDescription(std::function<QString()> description)
+{
+    m_description = std::move(description);
 }
 
 void HostingView::showEvent(QShowEvent* event)

@@ -111,7 +111,14 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Name ? row()->view().text() : QAccessibleWidget::text(kind);
+        switch (kind) {
+        case QAccessible::Name:
+            return row()->view().text();
+        case QAccessible::Description:
+            return row()->view().description();
+        default:
+            return QAccessibleWidget::text(kind);
+        }
     }
 
     QAccessibleInterface* parent() const override { return interfaceOf(menu()); }
