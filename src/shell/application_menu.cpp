@@ -3,6 +3,7 @@
 
 #include "model/bundle_info.h"
 #include "model/diagnostics.h"
+#include "model/distinguishing_folders.h"
 #include "model/preference_keys.h"
 #include "model/preferences_store.h"
 #include "model/repo_manager.h"
@@ -32,6 +33,21 @@ using namespace std::chrono_literals;
 /// Long enough for the menu to be on the screen before git takes the processor.
 constexpr auto refreshDelay = 200ms;
 
+/// Names that differ where the directories do.
+QStringList spokenNames(const RepoViewModels& records)
+{
+    QStringList dirs;
+    for (const auto& record : records)
+        dirs += record->dir();
+    QStringList names = distinguishingFolders(dirs);
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        QString& name = names[static_cast<qsizetype>(i)];
+        name = name.isEmpty() ? records[i]->name()
+                              : ApplicationMenu::tr("%1 in %2").arg(records[i]->name(), name);
+    }
+    return names;
+}
+
 } // namespace
 
 ApplicationMenu::ApplicationMenu(Platform& platform, const BundleInfo& bundle,
@@ -56,8 +72,9 @@ std::unique_ptr<StatusMenu> ApplicationMenu::buildMenu(const RepoManager& reposi
         addEmptyStateItem(*menu);
     const QList<AppEntry> applications =
         loadAppEntries(m_store, *m_platform.systemApplications, *m_platform.userApplications);
-    for (const auto& record : m_models)
-        addRepositoryItem(record, applications, *menu);
+    const QStringList names = spokenNames(m_models);
+    for (std::size_t i = 0; i < m_models.size(); ++i)
+        addRepositoryItem(m_models[i], names[static_cast<qsizetype>(i)], applications, *menu);
     return menu;
 }
 
@@ -102,9 +119,11 @@ void ApplicationMenu::addRefreshRow(StatusMenu& menu) const
 }
 
 void ApplicationMenu::addRepositoryItem(const std::shared_ptr<RepoViewModel>& record,
+                                        const QString& spokenName,
                                         const QList<AppEntry>& applications, StatusMenu& menu) const
 {
     auto* const status = new RepoStatusView(record, m_store);
+    status->setSpokenName(spokenName);
     auto* const row = new HostingView(status);
     row->setText(status->text());
     connect(status, &RepoStatusView::textChanged, row,
@@ -114,16 +133,17 @@ void ApplicationMenu::addRepositoryItem(const std::shared_ptr<RepoViewModel>& re
             &HostingView::descriptionChanged);
     HostedRow* const hosted = menu.addRow(row);
     hosted->setName(record->name());
-    hosted->setSubmenu(newPanel(record, applications, menu));
+    hosted->setSubmenu(newPanel(record, spokenName, applications, menu));
     menu.addSeparator();
 }
 
 StatusMenu* ApplicationMenu::newPanel(const std::shared_ptr<RepoViewModel>& record,
+                                      const QString& spokenName,
                                       const QList<AppEntry>& applications, StatusMenu& menu) const
 {
     auto* const actions = new ActionsView(record, applications, m_runner);
     auto* const row = new HostingView(actions);
-    row->setText(tr("Actions for %1").arg(record->name()));
+    row->setText(tr("Actions for %1").arg(spokenName));
     connect(row, &HostingView::aboutToBeShown, actions, &ActionsView::render);
     auto* const panel = new StatusMenu(&menu);
     panel->addRow(row);

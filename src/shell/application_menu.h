@@ -57,9 +57,10 @@ Q_SIGNALS:
 
 private:
     void addRefreshRow(StatusMenu& menu) const;
-    void addRepositoryItem(const std::shared_ptr<RepoViewModel>& record,
+    void addRepositoryItem(const std::shared_ptr<RepoViewModel>& record, const QString& spokenName,
                            const QList<AppEntry>& applications, StatusMenu& menu) const;
     [[nodiscard]] StatusMenu* newPanel(const std::shared_ptr<RepoViewModel>& record,
+                                       const QString& spokenName,
                                        const QList<AppEntry>& applications, StatusMenu& menu) const;
     void addEmptyStateItem(StatusMenu& menu) const;
 

@@ -62,6 +62,7 @@ RepoStatusView::RepoStatusView(std::shared_ptr<RepoViewModel> vm, PreferencesSto
                                QWidget* parent)
     : QWidget(parent)
     , m_vm(std::move(vm))
+    , m_spokenName(m_vm->name())
     , m_onlyIcons(store, preferences::onlyIcons)
     , m_showCleanRepoStatus(store, preferences::showCleanRepoStatus)
     , m_picture(makePicture(tr("Repository"), this))
@@ -84,7 +85,7 @@ RepoStatusView::RepoStatusView(std::shared_ptr<RepoViewModel> vm, PreferencesSto
 
 QString RepoStatusView::text() const
 {
-    QStringList parts{m_vm->name()};
+    QStringList parts{m_spokenName};
     if (m_vm->isRepo()) {
         parts += tr("branch %1").arg(m_vm->branchString().value_or(QStringLiteral("?")));
         if (m_vm->statusString())

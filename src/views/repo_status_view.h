@@ -28,6 +28,8 @@ public:
 
     /// All that the row says, as one plain sentence without glyphs.
     [[nodiscard]] QString text() const;
+    /// What stands in that for the record's name, to be told from another of the same name.
+    void setSpokenName(const QString& name) { m_spokenName = name; }
     /// What git says beyond that, in words; empty if there is nothing. Reads the whole status.
     [[nodiscard]] QString description() const;
 
@@ -50,6 +52,7 @@ private:
     void renderSpinner();
 
     const std::shared_ptr<RepoViewModel> m_vm;
+    QString m_spokenName;
     BoundSetting m_onlyIcons;
     BoundSetting m_showCleanRepoStatus;
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "model/distinguishing_folders.h"
 #include "model/git_quoting.h"
 #include "support/temporary_repository.h"
 #include "support/test_registry.h"
@@ -53,6 +54,19 @@ private Q_SLOTS:
         const TemporaryRepository repository;
         repository.run(commands);
         QTEST(loadedText(*m_bench.record(repository.dir())), "expected");
+    }
+
+    void sameNamesAreToldApart()
+    {
+        QCOMPARE(distinguishingFolders({u"/s/work/app"_s,
+                                        u"/s/mine/app"_s,
+                                        u"/s/x"_s,
+                                        u"/a/l/y"_s,
+                                        u"/b/l/y"_s,
+                                        u"/a/l/y"_s,
+                                        u"y"_s,
+                                        {}}),
+                 (QStringList{u"work"_s, u"mine"_s, {}, u"a/l"_s, u"b/l"_s, u"a/l"_s, {}, {}}));
     }
 
     void ignoresInheritedEnvironment()
