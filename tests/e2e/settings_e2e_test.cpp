@@ -20,20 +20,25 @@ QStringList listedNames()
     return names;
 }
 
-/// Drags the row by its handle with the real pointer.
-void drag(const QString& row, QPoint to)
+/// Drags with the real pointer.
+void drag(QPoint from, QPoint to)
 {
-    const QRect area = appeared(row + u", "_s).area;
     const auto moveTo = [](QPoint place) {
         xdotool({u"mousemove"_s, QString::number(place.x()), QString::number(place.y())});
         QTest::qWait(50);
     };
-    const QPoint from(area.left() + 12, area.center().y());
     moveTo(from);
     xdotool({u"mousedown"_s, u"1"_s});
     for (int step = 1; step <= 10; ++step)
         moveTo(from + (to - from) * step / 10);
     xdotool({u"mouseup"_s, u"1"_s});
+}
+
+/// Drags the row by its handle.
+void dragRow(const QString& row, QPoint to)
+{
+    const QRect area = appeared(row + u", "_s).area;
+    drag({area.left() + 12, area.center().y()}, to);
 }
 
 } // namespace
@@ -63,10 +68,10 @@ private Q_SLOTS:
         QVERIFY(clickNamed(u"add repo"_s));
         QTRY_COMPARE_WITH_TIMEOUT(stored(), u"typed one|first|second"_s, 10000);
 
-        drag(u"second"_s, appeared(u"typed one, "_s).area.center());
+        dragRow(u"second"_s, appeared(u"typed one, "_s).area.center());
         QTRY_COMPARE_WITH_TIMEOUT(stored(), u"second|typed one|first"_s, 10000);
         // Dropped outside, the new order is shown but not stored.
-        drag(u"first"_s, appeared(u"second, "_s).area.topLeft() + QPoint(30, -70));
+        dragRow(u"first"_s, appeared(u"second, "_s).area.topLeft() + QPoint(30, -70));
         QTRY_COMPARE_WITH_TIMEOUT(listedNames().join(u'|'), u"first|second|typed one"_s, 10000);
         QCOMPARE(stored(), u"second|typed one|first"_s);
 
@@ -84,6 +89,33 @@ private Q_SLOTS:
                                                u"typed one, branch main, Repo is clean"_s}),
                                   10000);
         key(u"Escape"_s);
+    }
+
+    void folderIsChosenOrDropped()
+    {
+        const QTemporaryDir root;
+        const QStringList dirs{root.filePath(u"first"_s), root.filePath(u"it's a folder"_s)};
+        for (const QString& dir : dirs)
+            QVERIFY(QDir().mkpath(dir));
+        const RunningProgram program;
+        QVERIFY(openTab(u"Repositories"_s));
+        const QRect field = appeared(u"Path of a repository"_s).area;
+        click({field.right() - 14, field.center().y()});
+        QVERIFY(windowIsActive(u"Choose a folder"_s));
+        xdotool({u"type"_s, dirs.first()});
+        key(u"Return"_s);
+        QVERIFY(windowIsActive(u"Settings"_s));
+        QVERIFY(clickNamed(u"add repo"_s));
+
+        QProcess fileManager;
+        fileManager.start(QStringLiteral(TARNWICK_SCRIPTS "/folder_to_drag.py"), {dirs.last()});
+        QVERIFY(fileManager.waitForReadyRead());
+        drag({20, 20}, field.center());
+        QVERIFY(clickNamed(u"add repo"_s));
+        QTRY_COMPARE_WITH_TIMEOUT(program.preferences().value(u"repos"_s),
+                                  dirs.last() + u'\n' + dirs.first(), 10000);
+        fileManager.kill();
+        fileManager.waitForFinished();
     }
 
     void switchedApplicationIsOffered()

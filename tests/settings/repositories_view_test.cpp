@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QToolButton>
@@ -50,6 +51,24 @@ private Q_SLOTS:
         QCOMPARE(m_fixture->stored().join(u','), u",, ~/x ,/n/a,/n/b,/n/c,/n/b"_s);
         QCOMPARE(m_column->rows().size(), 7);
         QCOMPARE(shown(*m_other), shown(*m_view));
+    }
+
+    void onlyOneFolderMayBeDropped()
+    {
+        const QUrl folder = QUrl::fromLocalFile(QDir::tempPath());
+        const QUrl file = QUrl::fromLocalFile(QCoreApplication::applicationFilePath());
+        for (const auto& [urls, isTaken] : {std::pair(QList<QUrl>{folder}, true),
+                                            {{file}, false},
+                                            {{folder, folder}, false},
+                                            {{}, false}}) {
+            QMimeData dragged;
+            dragged.setText(u"17"_s); // as that of a row
+            if (!urls.isEmpty())
+                dragged.setUrls(urls);
+            QDragEnterEvent enter({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+            QApplication::sendEvent(m_view->findChild<QLineEdit*>(), &enter);
+            QCOMPARE(enter.isAccepted(), isTaken);
+        }
     }
 
     void removesAllRecordsOfDirectory()
