@@ -113,7 +113,8 @@ start_desktop() {
     export DISPLAY=:$answer
     start_and_read dbus-daemon --session --nofork --print-address=3 \
         --address="unix:path=$XDG_RUNTIME_DIR/bus"
-    export DBUS_SESSION_BUS_ADDRESS=$answer
+    # What the shells ask the system for is not there either, but they want a bus that says so.
+    export DBUS_SESSION_BUS_ADDRESS=$answer DBUS_SYSTEM_BUS_ADDRESS=$answer
     "$desktop/desktop_theme.sh" "${theme%-panel}"
     start xsettingsd
     echo "${pids[-1]}" >"$XDG_RUNTIME_DIR/xsettingsd.pid"

@@ -6,6 +6,9 @@ set -euo pipefail
 if [[ $XDG_SESSION_TYPE == wayland ]]; then
     unset DISPLAY
     export WAYLAND_DISPLAY=wayland-1
-    [[ ! -e $XDG_RUNTIME_DIR/xwayland ]] || export DISPLAY=$(<"$XDG_RUNTIME_DIR/xwayland")
+    if [[ -e $XDG_RUNTIME_DIR/xwayland ]]; then
+        DISPLAY=$(<"$XDG_RUNTIME_DIR/xwayland")
+        export DISPLAY
+    fi
 fi
 exec "$@"

@@ -53,12 +53,15 @@ x11)
     ;;
 wayland)
     write_settings
-    exec kwin_wayland --x11-display "$DISPLAY" --socket wayland-1 --xwayland \
+    # The copy lacks the installed one's capabilities, which a container may not grant.
+    cp "$(command -v kwin_wayland)" "$TMPDIR"
+    exec "$TMPDIR/kwin_wayland" --x11-display "$DISPLAY" --socket wayland-1 --xwayland \
         --width "${TARNWICK_DESKTOP_SIZE%x*}" --height "${TARNWICK_DESKTOP_SIZE#*x}" \
         --scale "$TARNWICK_DESKTOP_SCALE" --exit-with-session "$(realpath "$0") session"
     ;;
 session)
     echo "$DISPLAY" >"$XDG_RUNTIME_DIR/xwayland"
+    dbus-update-activation-environment DISPLAY WAYLAND_DISPLAY KDE_FULL_SESSION KDE_SESSION_VERSION
     exec plasmashell
     ;;
 esac
