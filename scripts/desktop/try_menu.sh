@@ -50,8 +50,9 @@ open_menu() {
     pointer "${item[@]}"
     xdotool click 1
     within 4 menu_is_open && return
-    picture exported
-    xdotool key Down sleep 0.3 key Return
+    saw exported item || return 1
+    pointer $((area[0] + area[2] / 2)) $((area[1] + 26 * TARNWICK_DESKTOP_SCALE))
+    xdotool click 1
     within 4 menu_is_open && opened_by="the first entry of the exported menu"
 }
 

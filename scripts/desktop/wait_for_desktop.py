@@ -3,8 +3,8 @@
 """wait_for_desktop.py PART[,PART]: returns once these parts of the desktop are ready.
 
 notifier: a status notifier watcher says that it has a host; tray: the tray selection of the display
-has an owner; window-manager; compositor: the socket of a Wayland compositor is there. Fails after a
-minute.
+has an owner; window-manager; compositor: the socket of a Wayland compositor is there;
+desktop: GNOME shows it, and not the overview. Fails after a minute.
 """
 import os
 import sys
@@ -37,11 +37,13 @@ def has_window_manager(screen):
 
 def main():
     screen = display.Display()
+    runtime = os.environ["XDG_RUNTIME_DIR"]
     ready = {
         "notifier": watcher_has_host,
         "tray": lambda: has_tray_selection(screen),
         "window-manager": lambda: has_window_manager(screen),
-        "compositor": lambda: os.path.exists(os.environ["XDG_RUNTIME_DIR"] + "/wayland-1"),
+        "compositor": lambda: os.path.exists(runtime + "/wayland-1"),
+        "desktop": lambda: os.path.exists(runtime + "/overview-left"),
     }
     deadline = time.monotonic() + 60
     while not all(ready[part]() for part in sys.argv[1].split(",")):

@@ -17,15 +17,24 @@ welcome-dialog-last-shown-version='9999'
 color-scheme='$scheme'
 gtk-theme='$theme'
 enable-animations=false
+[org/gnome/desktop/notifications]
+show-banners=false
+[org/gnome/desktop/screensaver]
+lock-enabled=false
 END
 
 # It starts with the overview, which covers the desktop.
+overview() {
+    gdbus call --session --dest org.gnome.Shell --object-path /org/gnome/Shell \
+        --method "org.freedesktop.DBus.Properties.$1" org.gnome.Shell OverviewActive "${@:2}" 2>&1
+}
 leave_overview() {
-    gdbus wait --session --timeout 60 org.gnome.Shell
-    until gdbus call --session --dest org.gnome.Shell --object-path /org/gnome/Shell \
-        --method org.freedesktop.DBus.Properties.Set org.gnome.Shell OverviewActive '<false>'; do
-        sleep 0.5
+    until [[ $(overview Get) == *true* ]]; do sleep 0.2; done
+    until [[ $(overview Get) == *false* ]]; do
+        overview Set '<false>'
+        sleep 1
     done
+    touch "$XDG_RUNTIME_DIR/overview-left"
 }
 leave_overview &
 

@@ -44,11 +44,18 @@ END
     printf '[Theme]\nname=%s\n' "$panel" >"$XDG_CONFIG_HOME/plasmarc"
 }
 
+# It holds the watcher of status notifier items.
+start_kded() {
+    setpriv --pdeathsig TERM -- kded5 &
+    gdbus wait --session --timeout 20 org.kde.StatusNotifierWatcher
+}
+
 export KDE_FULL_SESSION=true KDE_SESSION_VERSION=5
 case $1 in
 x11)
     write_settings
     setpriv --pdeathsig TERM -- kwin_x11 &
+    start_kded
     exec plasmashell
     ;;
 wayland)
@@ -62,6 +69,7 @@ wayland)
 session)
     echo "$DISPLAY" >"$XDG_RUNTIME_DIR/xwayland"
     dbus-update-activation-environment DISPLAY WAYLAND_DISPLAY KDE_FULL_SESSION KDE_SESSION_VERSION
+    start_kded
     exec plasmashell
     ;;
 esac
