@@ -9,6 +9,9 @@ namespace tarnwick {
 /// no use there, a window that closes when it loses the keyboard is.
 [[nodiscard]] bool popupsHoldInput();
 
+/// Whether a window that is no popup can be put beside the status item, too.
+[[nodiscard]] bool windowsCanBePlaced();
+
 /// Whether a popup that opens now would get them: another program can hold them, as panels do for
 /// as long as they show a menu. True where `popupsHoldInput()` is not. Waits for the display
 /// server.

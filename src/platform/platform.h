@@ -26,7 +26,7 @@ struct Platform
 
     std::unique_ptr<TrayHost> trayHost;
     std::unique_ptr<ActiveWindow> activeWindow;
-    /// Keeps the palette with the desktop's; nothing to call.
+    /// Keeps the palette with the desktop's; nothing to call. Null where Qt does that itself.
     std::unique_ptr<QObject> paletteFollower;
     std::unique_ptr<TerminalLauncher> terminal;
     std::unique_ptr<ApplicationFolder> systemApplications;

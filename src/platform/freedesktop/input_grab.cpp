@@ -14,6 +14,11 @@ bool popupsHoldInput()
     return !isXWayland && !platform.startsWith(u"wayland");
 }
 
+bool windowsCanBePlaced()
+{
+    return popupsHoldInput(); // the same compositors place windows themselves
+}
+
 bool inputIsFree()
 {
     xcb_connection_t* const connection = x11::connection();

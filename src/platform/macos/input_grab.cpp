@@ -10,6 +10,11 @@ bool popupsHoldInput()
     return false;
 }
 
+bool windowsCanBePlaced()
+{
+    return true;
+}
+
 bool inputIsFree()
 {
     return true;

@@ -251,7 +251,7 @@ QRect StatusMenu::placement() const
         const int top = row->mapToGlobal(QPoint()).y() - margins.top();
         return placeSubmenu(parentMenu()->area(), top, availableArea(), wanted, layoutDirection());
     }
-    if (windowType() != Qt::Popup)
+    if (!windowsCanBePlaced())
         return QStyle::alignedRect(layoutDirection(), Qt::AlignCenter,
                                    wanted.boundedTo(availableArea().size()), availableArea());
     return placeMenu(m_anchor, availableArea(), wanted);
@@ -261,7 +261,7 @@ QRect StatusMenu::availableArea() const
 {
     if (const StatusMenu* const parent = parentMenu())
         return parent->availableArea();
-    if (windowType() != Qt::Popup) {
+    if (!windowsCanBePlaced()) {
         QRect available = screen()->availableGeometry();
         // On Wayland every window counts as in the upper left corner of the first screen.
         if (isVisible() && !available.intersects(area()))
