@@ -29,6 +29,10 @@ private Q_SLOTS:
         row("above, too long", {600, 742, 24, 24}, bare, longMenu, {600, 0, 340, 742});
         row("beside, left panel", {2, 400, 24, 24}, bare, menu, {26, 400, 340, 268});
         row("below the pointer", {700, 10, 0, 0}, belowPanel, menu, {688, 26, 340, 268});
+        row("entry below the panel", {700, 130, 0, 0}, belowPanel, menu, {688, 26, 340, 268});
+        row("entry above the panel", {100, 640, 0, 0}, abovePanel, menu, {88, 472, 340, 268});
+        row("entry beside the panel", {130, 740, 0, 0}, {40, 0, 1326, 768}, menu,
+            {40, 500, 340, 268});
         row("above the pointer", {700, 700, 0, 0}, bare, menu, {688, 420, 340, 268});
         row("other screen", {1400, 5, 24, 24}, {1366, 0, 800, 600}, menu, {1400, 29, 340, 268});
     }
@@ -38,7 +42,7 @@ private Q_SLOTS:
         QFETCH(QRect, item);
         QFETCH(QRect, available);
         QFETCH(QSize, wanted);
-        const QRect placed = placeMenu(item, available, wanted);
+        const QRect placed = placeMenu(item, {0, 0, 1366, 768}, available, wanted);
         QTEST(placed, "menu");
         QVERIFY(available.contains(placed));
         QVERIFY(!placed.intersects(item));

@@ -10,6 +10,9 @@ namespace {
 /// Half the side of a usual status item.
 constexpr int pointerReach = 12;
 
+/// How far an entry of the item's own menu can be from the panel.
+constexpr int entryReach = 160;
+
 /// In a corner of a screen whose panels take no space, an item counts as one of the upper or lower
 /// panel: those are the usual ones.
 constexpr int corner = 48;
@@ -21,6 +24,25 @@ Qt::Edge nearestEdge(const QPoint& point, const QRect& available)
     if (vertical <= horizontal || (horizontal >= 0 && vertical < corner))
         return point.y() < available.center().y() ? Qt::TopEdge : Qt::BottomEdge;
     return point.x() < available.center().x() ? Qt::LeftEdge : Qt::RightEdge;
+}
+
+QRect itemNear(QPoint pointer, const QRect& screen, const QRect& available)
+{
+    const QRect around = QRect(pointer, QSize(1, 1))
+                             .adjusted(-pointerReach, -pointerReach, pointerReach, pointerReach);
+    QRect item = around;
+    int nearest = entryReach;
+    const auto moveOntoPanel = [&](int thickness, int distance, QPoint direction) {
+        if (thickness <= 0 || distance >= nearest)
+            return;
+        nearest = distance;
+        item = around.translated(direction * (distance + pointerReach + 1));
+    };
+    moveOntoPanel(available.top() - screen.top(), pointer.y() - available.top(), {0, -1});
+    moveOntoPanel(screen.bottom() - available.bottom(), available.bottom() - pointer.y(), {0, 1});
+    moveOntoPanel(available.left() - screen.left(), pointer.x() - available.left(), {-1, 0});
+    moveOntoPanel(screen.right() - available.right(), available.right() - pointer.x(), {1, 0});
+    return item;
 }
 
 } // namespace
@@ -51,12 +73,9 @@ QRect keptWithin(const QRect& available, QRect rect)
     return rect;
 }
 
-QRect placeMenu(const QRect& anchor, const QRect& available, QSize wanted)
+QRect placeMenu(const QRect& anchor, const QRect& screen, const QRect& available, QSize wanted)
 {
-    const QRect item = anchor.isEmpty()
-                           ? QRect(anchor.topLeft(), QSize(1, 1))
-                                 .adjusted(-pointerReach, -pointerReach, pointerReach, pointerReach)
-                           : anchor;
+    const QRect item = anchor.isEmpty() ? itemNear(anchor.topLeft(), screen, available) : anchor;
     QRect room = available;
     QRect menu({}, wanted);
     // The menu lies flush with the item and is cut off where the room ends.

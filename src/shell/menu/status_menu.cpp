@@ -254,7 +254,13 @@ QRect StatusMenu::placement() const
     if (!windowsCanBePlaced())
         return QStyle::alignedRect(layoutDirection(), Qt::AlignCenter,
                                    wanted.boundedTo(availableArea().size()), availableArea());
-    return placeMenu(m_anchor, availableArea(), wanted);
+    return placeMenu(m_anchor, shownScreen().geometry(), availableArea(), wanted);
+}
+
+const QScreen& StatusMenu::shownScreen() const
+{
+    const QScreen* const at = QGuiApplication::screenAt(m_anchor.center());
+    return at ? *at : *screen();
 }
 
 QRect StatusMenu::availableArea() const
@@ -268,8 +274,7 @@ QRect StatusMenu::availableArea() const
             available.moveTopLeft(area().topLeft());
         return available;
     }
-    const QScreen* const at = QGuiApplication::screenAt(m_anchor.center());
-    const QScreen& shown = at ? *at : *screen();
+    const QScreen& shown = shownScreen();
     // Qt 6.11 does not scale the position of the available geometry.
     return m_panels.isEmpty() ? shown.availableGeometry()
                               : areaWithoutPanels(shown.geometry(), m_panels);

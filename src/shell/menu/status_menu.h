@@ -81,6 +81,7 @@ private:
     void occupy(const QRect& place);
     void fitToRows();
     [[nodiscard]] QRect placement() const;
+    [[nodiscard]] const QScreen& shownScreen() const;
     [[nodiscard]] QRect availableArea() const;
 
     RowColumn* const m_column;
