@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <span>
 
 namespace tarnwick {
@@ -41,6 +42,25 @@ public:
 private:
     ReplyPointer<xcb_get_property_reply_t> m_reply;
 };
+
+/// The windows within another one that are to be seen.
+QList<xcb_window_t> visibleChildren(xcb_connection_t* connection, xcb_window_t window)
+{
+    const ReplyPointer<xcb_query_tree_reply_t> tree{
+        xcb_query_tree_reply(connection, xcb_query_tree_unchecked(connection, window), nullptr)};
+    if (!tree)
+        return {};
+    const std::span children(xcb_query_tree_children(tree.get()),
+                             static_cast<std::size_t>(xcb_query_tree_children_length(tree.get())));
+    QList<xcb_window_t> visible;
+    std::ranges::copy_if(children, std::back_inserter(visible), [connection](xcb_window_t child) {
+        const ReplyPointer<xcb_get_window_attributes_reply_t> attributes{
+            xcb_get_window_attributes_reply(
+                connection, xcb_get_window_attributes_unchecked(connection, child), nullptr)};
+        return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+    });
+    return visible;
+}
 
 /// On the root window; empty if the window is gone.
 QRect geometryOf(xcb_connection_t* connection, xcb_window_t window, xcb_window_t root)
@@ -92,16 +112,21 @@ QList<DockWindow> DockWindows::find() const
 
     QList<DockWindow> docks;
     m_followed.clear();
-    const Numbers windows(m_connection, root, atom("_NET_CLIENT_LIST_STACKING"), XCB_ATOM_WINDOW);
-    for (const xcb_window_t window : windows.values()) {
+    const auto addIfDock = [&](xcb_window_t window) {
         const Numbers types(m_connection, window, typeProperty, XCB_ATOM_ATOM);
         if (!std::ranges::count(types.values(), dock))
-            continue;
+            return;
         const Numbers strut(m_connection, window, strutProperty, XCB_ATOM_CARDINAL);
         docks.append({geometryOf(m_connection, window, root), strips(strut.values(), rootSize)});
         m_followed.append(window);
         const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
         xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &events);
+    };
+    const Numbers windows(m_connection, root, atom("_NET_CLIENT_LIST_STACKING"), XCB_ATOM_WINDOW);
+    std::ranges::for_each(windows.values(), addIfDock);
+    if (docks.isEmpty()) { // i3 leaves its bar out, and puts a frame around it
+        for (const xcb_window_t frame : visibleChildren(m_connection, root))
+            std::ranges::for_each(visibleChildren(m_connection, frame), addIfDock);
     }
     return docks;
 }
