@@ -3,6 +3,7 @@
 
 #include "platform/window_activation.h"
 
+#include <QHBoxLayout>
 #include <QMainWindow>
 
 namespace tarnwick {
@@ -23,7 +24,14 @@ void showInWindow(std::unique_ptr<QWidget> content, const QString& title)
     window->setMaximumSize(content->maximumSize());
     window->setWindowFlag(Qt::WindowMaximizeButtonHint,
                           content->maximumSize() == QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
-    window->setCentralWidget(content.release());
+    // A tiling window manager makes the window larger than it can be.
+    auto* const area = new QWidget; // owned by the window
+    auto* const layout = new QHBoxLayout(area);
+    layout->setContentsMargins({});
+    layout->addStretch();
+    layout->addWidget(content.release(), 1);
+    layout->addStretch();
+    window->setCentralWidget(area);
     showWindow(std::move(window), title);
 }
 
