@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "command_line.h"
 #include "model/background_queue.h"
 #include "model/bundle_info.h"
 #include "model/command_runner.h"
@@ -24,6 +25,9 @@ int main(int argc, char* argv[])
 
     // Output may be piped to a program that ends. QProcess gives children the default back.
     std::signal(SIGPIPE, SIG_IGN);
+
+    if (const auto status = answerCommandLine(argc, argv))
+        return *status;
 
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tarnwick"));
