@@ -14,3 +14,5 @@ if ! { cmake --preset "$preset" && cmake --build --preset "$preset" ${1+--target
     echo "The build failed; the whole story is in $log" >&2
     exit 1
 fi
+# Where editors look for it.
+ln -sfn "$preset/compile_commands.json" build/compile_commands.json

@@ -1,33 +1,19 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# run_tests.sh PRESET...: builds the presets, runs their tests and the checks of the sources, and
-# counts: each test function or row of a Qt Test class is one, each check is one. The last line is
-# "N passed, N failed, N skipped".
+# run_tests.sh PRESET...: runs the checks, builds the presets, runs their tests, clang-tidy over what
+# changed, and counts: each test function or row of a Qt Test class is one, each check is one. The
+# last line is "N passed, N failed, N skipped".
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 passed=0 failed=0 skipped=0
 
-# check NAME COMMAND...: a command that ends with 77 has said why it checked nothing.
-check() {
-    local name=$1 status=0
-    shift
-    echo "Check: $name"
-    "$@" || status=$?
-    case $status in
-    0) passed=$((passed + 1)) ;;
-    77) skipped=$((skipped + 1)) ;;
-    *) failed=$((failed + 1)) && echo "FAILED: $name" ;;
-    esac
-}
-
-formatted() {
-    local version
-    version=$(clang-format --version 2>&1)
-    if [[ $version != *"version 14."* ]]; then
-        echo "skipped, because only clang-format 14 judges; here is: $version"
-        return 77
-    fi
-    find src helpers tests \( -name '*.h' -o -name '*.cpp' \) -exec clang-format --dry-run -Werror {} +
+# count STATUS LINE: what the last line of a script counts; one that failed has a failure at least.
+count() {
+    local p=0 f=0 s=0
+    [[ $2 =~ ^([0-9]+)\ passed,\ ([0-9]+)\ failed,\ ([0-9]+)\ skipped$ ]] &&
+        p=${BASH_REMATCH[1]} f=${BASH_REMATCH[2]} s=${BASH_REMATCH[3]}
+    (($1 == 0 || f > 0)) || f=1
+    passed=$((passed + p)) failed=$((failed + f)) skipped=$((skipped + s))
 }
 
 # Prints the numbers of passed, failed and skipped functions in a log of ctest. An entry that failed
@@ -67,8 +53,15 @@ run_preset() {
     echo "The whole story is in $log"
 }
 
-check "the sources are formatted" formatted
-check "includes run downwards, connections end" scripts/check_sources.py
+mkdir -p build
+scripts/check.sh | tee build/check.log
+count "${PIPESTATUS[0]}" "$(tail -n 1 build/check.log)"
 for preset in "$@"; do run_preset "$preset"; done
+scripts/lint.sh --changed
+case $? in
+0) passed=$((passed + 1)) ;;
+77) skipped=$((skipped + 1)) ;;
+*) failed=$((failed + 1)) ;;
+esac
 echo "$passed passed, $failed failed, $skipped skipped"
 ((failed == 0))
