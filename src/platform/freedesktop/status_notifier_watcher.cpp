@@ -11,14 +11,20 @@ namespace tarnwick {
 
 namespace {
 
-const QString service = QStringLiteral("org.kde.StatusNotifierWatcher");
-const QString path = QStringLiteral("/StatusNotifierWatcher");
+QString service()
+{
+    return QStringLiteral("org.kde.StatusNotifierWatcher");
+}
+QString path()
+{
+    return QStringLiteral("/StatusNotifierWatcher");
+}
 
 } // namespace
 
 StatusNotifierWatcher::StatusNotifierWatcher(QObject* parent)
     : QObject(parent)
-    , m_owner(service, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForOwnerChange)
+    , m_owner(service(), QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForOwnerChange)
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
@@ -29,15 +35,16 @@ StatusNotifierWatcher::StatusNotifierWatcher(QObject* parent)
             &StatusNotifierWatcher::queryState);
     for (const QString& change : {QStringLiteral("StatusNotifierHostRegistered"),
                                   QStringLiteral("StatusNotifierHostUnregistered")})
-        bus.connect(service, path, service, change, this, SLOT(queryState()));
+        bus.connect(service(), path(), service(), change, this, SLOT(queryState()));
     queryState();
 }
 
 void StatusNotifierWatcher::queryState()
 {
     QDBusMessage request = QDBusMessage::createMethodCall(
-        service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    request << service << QStringLiteral("IsStatusNotifierHostRegistered");
+        service(), path(), QStringLiteral("org.freedesktop.DBus.Properties"),
+        QStringLiteral("Get"));
+    request << service() << QStringLiteral("IsStatusNotifierHostRegistered");
     request.setAutoStartService(false);
 
     auto* call =
