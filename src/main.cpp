@@ -3,6 +3,7 @@
 #include "model/background_queue.h"
 #include "model/bundle_info.h"
 #include "model/command_runner.h"
+#include "model/diagnostics.h"
 #include "model/preferences_file.h"
 #include "model/preferences_store.h"
 #include "platform/application_instance.h"
@@ -31,17 +32,22 @@ int main(int argc, char* argv[])
 
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tarnwick"));
-    QApplication::setDesktopFileName(QStringLiteral("org.tarnwick.Tarnwick"));
+    const QString identifier = QStringLiteral("org.tarnwick.Tarnwick");
+    QApplication::setDesktopFileName(identifier);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/org.tarnwick.Tarnwick.svg")));
     // The program lives in the status bar: closing a window is never the end of it.
     QApplication::setQuitOnLastWindowClosed(false);
 
-    Platform platform = systemPlatform();
-    const BundleInfo bundle(platform.bundleInfo);
-    if (!becomeRunningApplication(bundle.text(QStringLiteral("CFBundleIdentifier")))) {
+    const auto instance = applicationInstance(identifier);
+    if (!instance->becomeOnlyCopy()) {
         std::fputs("Tarnwick is already running\n", stderr);
         return EXIT_SUCCESS;
     }
+    if (!instance->isReachable())
+        writeDiagnosticLine(QStringLiteral("No session bus found; doing without."));
+
+    Platform platform = systemPlatform();
+    const BundleInfo bundle(platform.bundleInfo);
 
     installMenuAccessibility();
 
@@ -52,6 +58,10 @@ int main(int argc, char* argv[])
     BackgroundQueue queue;
 
     AppDelegate delegate(platform, bundle, store, {runner, queue, *platform.terminal, store});
+    QObject::connect(instance.get(), &ApplicationInstance::activated, &delegate,
+                     &AppDelegate::activate);
+    QObject::connect(instance.get(), &ApplicationInstance::actionRequested, &delegate,
+                     &AppDelegate::performAction);
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "launcher.h"
-#include "platform/application_instance.h"
 #include "platform/launcher_helper.h"
 
 #include <QCoreApplication>
@@ -28,10 +27,10 @@ int main(int argc, char* argv[])
     using namespace tarnwick;
 
     QCoreApplication application(argc, argv);
-    const QDBusConnection bus = QDBusConnection::sessionBus();
+    QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) // then no notification can arrive
         return startApplication() ? EXIT_SUCCESS : EXIT_FAILURE;
-    if (!becomeRunningApplication(launcher::identifier))
+    if (!bus.registerService(launcher::identifier))
         return EXIT_SUCCESS; // another instance is waiting already
 
     const Launcher launcher(bus, QStringLiteral(TARNWICK_IDENTIFIER));

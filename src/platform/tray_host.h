@@ -36,6 +36,9 @@ public:
 
     [[nodiscard]] virtual ItemStyle itemStyle() const { return ItemStyle::Colored; }
 
+    /// Whether it is still being found out if there is a place, which takes seconds at most.
+    [[nodiscard]] virtual bool isUndecided() const { return false; }
+
     /// Where the desktop's panels are to be seen now, in logical coordinates of all screens; empty
     /// where none is, or where the desktop does not tell. Asks anew each time.
     [[nodiscard]] virtual QList<QRect> panelRects() const = 0;
@@ -49,6 +52,8 @@ Q_SIGNALS:
     /// A place has come up: the first, or another after the panel started anew. Never emitted from
     /// within the constructor.
     void appeared();
+    /// It has been found out that there is no place yet.
+    void missed();
     /// A panel has moved, or shows or hides itself.
     void panelsMoved();
 };

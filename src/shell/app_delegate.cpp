@@ -12,9 +12,19 @@
 #include "shell/menu/status_menu.h"
 #include "shell/status_item.h"
 
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <chrono>
+
 namespace tarnwick {
 
+using namespace std::chrono_literals;
+
 namespace {
+
+/// What a panel takes to show the item in its place.
+constexpr auto placingTime = 500ms;
 
 AppDelegate* sharedDelegate = nullptr;
 
@@ -33,7 +43,7 @@ AppDelegate::AppDelegate(Platform& platform, const BundleInfo& bundle, Preferenc
     // An open menu holds the keyboard: what is meant for a terminal that has come up would go to
     // it.
     connect(platform.activeWindow.get(), &ActiveWindow::changed, this, [this] {
-        if (m_menu)
+        if (m_menu && !m_menu->isFreeStanding())
             m_menu->dismiss();
     });
 }
@@ -60,6 +70,27 @@ void AppDelegate::applicationDidFinishLaunching()
 void AppDelegate::menuWillOpen()
 {
     m_appMenu->refreshOnOpen();
+}
+
+void AppDelegate::activate()
+{
+    m_isAwaited = m_platform.trayHost->isUndecided();
+    if (m_isAwaited)
+        return;
+    if (!m_platform.trayHost->available())
+        m_menu->openFreeStanding();
+    else if (!m_menu->isVisible())
+        openMenu(m_statusBarItem->anchor());
+}
+
+void AppDelegate::performAction(const QString& name)
+{
+    if (name == u"refresh")
+        m_appMenu->refreshAll();
+    else if (name == u"settings")
+        openSettings();
+    else if (name == u"quit")
+        QCoreApplication::quit();
 }
 
 void AppDelegate::openSettings()
@@ -94,6 +125,8 @@ void AppDelegate::rebuildMenu()
     connect(menu.get(), &StatusMenu::aboutToShow, this, &AppDelegate::menuWillOpen);
     std::swap(m_menu, menu);
     if (menu) {
+        if (menu->isVisible() && menu->isFreeStanding())
+            m_menu->openFreeStanding(menu->pos());
         menu->close();
         // The request may come from within the old menu.
         menu.release()->deleteLater();
@@ -115,6 +148,13 @@ void AppDelegate::makeStatusItem()
 {
     m_statusBarItem = std::make_unique<StatusItem>(*m_platform.trayHost);
     connect(m_statusBarItem.get(), &StatusItem::triggered, this, &AppDelegate::openMenu);
+    const auto answer = [this] {
+        if (m_isAwaited)
+            activate();
+    };
+    connect(m_platform.trayHost.get(), &TrayHost::missed, this, answer);
+    connect(m_platform.trayHost.get(), &TrayHost::appeared, this,
+            [this, answer] { QTimer::singleShot(placingTime, this, answer); });
     connect(m_statusBarItem.get(), &StatusItem::refreshAllRequested, m_appMenu.get(),
             &ApplicationMenu::refreshAll);
     connect(m_statusBarItem.get(), &StatusItem::settingsRequested, this,

@@ -38,6 +38,12 @@ public:
     /// The status menu is about to open.
     void menuWillOpen();
 
+    /// Shows the repositories, in the menu at the status item or, on a desktop without a place for
+    /// one, in a window; waits until it is known which.
+    void activate();
+    /// Does what an action of the desktop entry stands for; nothing for one of another name.
+    void performAction(const QString& name);
+
     /// Opens another window of settings.
     void openSettings();
 
@@ -66,6 +72,8 @@ private:
     std::unique_ptr<RepoManager> m_repoManager;
     std::unique_ptr<StatusItem> m_statusBarItem;
     std::unique_ptr<StatusMenu> m_menu;
+    /// The user has asked for the repositories before it was known where to show them.
+    bool m_isAwaited = false;
 };
 
 } // namespace tarnwick

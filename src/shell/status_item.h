@@ -25,11 +25,14 @@ class StatusItem : public QObject
 public:
     explicit StatusItem(TrayHost& host, QObject* parent = nullptr);
 
+    /// Where the item is on the screen or, on panels that do not tell, an empty rectangle at the
+    /// pointer. To be asked only once the item is placed.
+    [[nodiscard]] QRect anchor() const;
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The user asked for the repositories. `anchor` is where the item is on the screen or, on
-    /// panels that do not tell, an empty rectangle at the pointer. A double click asks twice.
+    /// The user asked for the repositories at `anchor()`. A double click asks twice.
     void triggered(const QRect& anchor);
     void refreshAllRequested();
     void settingsRequested();
@@ -39,7 +42,6 @@ private:
     void showIcon();
     void onActivated(QSystemTrayIcon::ActivationReason reason);
     void updateColor();
-    QRect anchor() const;
 
     TrayHost& m_host;
     QMenu m_contextMenu;

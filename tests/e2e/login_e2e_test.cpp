@@ -49,15 +49,24 @@ private Q_SLOTS:
         second.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
         QVERIFY(second.waitForFinished());
         QCOMPARE(second.readAllStandardError(), "Tarnwick is already running\n");
+        QVERIFY(!appeared(u"Refresh all"_s).name.isEmpty()); // which is in the menu
         QCOMPARE(copies(), 1);
         QCOMPARE(m_notes.size(), 1);
+        QVERIFY(act(application, u"settings"_s) && windowIsActive(u"Settings"_s));
+        QVERIFY(act(application, u"quit"_s));
+        QTRY_COMPARE(copies(), 0);
 
-        QTRY_VERIFY(!statusItemPosition().isNull());
+        const QString service = u"/dbus-1/services/"_s + application + u".service"_s;
+        QVERIFY(QDir().mkpath(qEnvironmentVariable("XDG_DATA_HOME") + u"/dbus-1/services"_s));
+        QVERIFY(QFile::copy(QStringLiteral(TARNWICK_INSTALLED "/share") + service,
+                            qEnvironmentVariable("XDG_DATA_HOME") + service));
+        QCOMPARE(QProcess::execute(u"gapplication"_s, {u"launch"_s, application}), 0);
+        QVERIFY(!appeared(u"Refresh all"_s).name.isEmpty());
         ::kill(static_cast<pid_t>(bus.interface()->servicePid(application)), SIGTERM);
         QTRY_COMPARE(copies(), 0);
     }
 
-    void outlivesTheReaderOfItsOutput()
+    void managesWithoutBusAndReader()
     {
         const QTemporaryDir config;
         writeFile(config.filePath(u"tarnwick/preferences.json"_s), R"({"repos": "/nonexistent"})");
@@ -66,13 +75,21 @@ private Q_SLOTS:
         // The library of the buses ignores SIGPIPE itself.
         environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
         environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        environment.insert(u"XDG_RUNTIME_DIR"_s, config.path());
+        writeFile(config.filePath(u"org.tarnwick.Tarnwick.lock"_s), "cut off by a crash");
         QProcess program;
         program.setProcessEnvironment(environment);
         QProcess reader;
         program.setStandardOutputProcess(&reader);
         program.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
-        reader.start(u"true"_s, QStringList());
+        reader.start(u"head"_s, {u"-n1"_s});
         QTRY_VERIFY_WITH_TIMEOUT(QDir(config.filePath(u"autostart"_s)).exists(), 10000);
+        QCOMPARE(reader.readAll(), "No session bus found; doing without.\n");
+        QProcess second;
+        second.setProcessEnvironment(environment);
+        second.start(QStringLiteral(TARNWICK_PROGRAM), QStringList());
+        QVERIFY(second.waitForFinished());
+        QCOMPARE(second.readAllStandardOutput(), "");
         QCOMPARE(program.state(), QProcess::Running);
         program.terminate();
         QVERIFY(program.waitForFinished());
@@ -85,6 +102,10 @@ private:
     static bool runs(const QString& identifier)
     {
         return QDBusConnection::sessionBus().interface()->isServiceRegistered(identifier);
+    }
+    static bool act(const QString& application, const QString& action)
+    {
+        return QProcess::execute(u"gapplication"_s, {u"action"_s, application, action}) == 0;
     }
     static qsizetype copies()
     {

@@ -20,6 +20,8 @@ FreedesktopTrayHost::FreedesktopTrayHost(QObject* parent)
     connect(&m_trayTimer, &QTimer::timeout, this, [this] {
         if (m_tray.isPresent())
             acceptHost();
+        else
+            Q_EMIT missed();
     });
     connect(&m_notifier, &StatusNotifierWatcher::stateChanged, this,
             &FreedesktopTrayHost::reevaluate);
@@ -46,6 +48,14 @@ void FreedesktopTrayHost::acceptTrayAfter(std::chrono::milliseconds timeout)
 {
     if (m_tray.isPresent())
         m_trayTimer.start(timeout);
+    else if (!m_available)
+        Q_EMIT missed();
+}
+
+bool FreedesktopTrayHost::isUndecided() const
+{
+    return !m_available &&
+           (m_notifier.state() == StatusNotifierWatcher::State::Unknown || m_trayTimer.isActive());
 }
 
 void FreedesktopTrayHost::acceptHost()

@@ -25,6 +25,7 @@ public:
     explicit FreedesktopTrayHost(QObject* parent = nullptr);
 
     [[nodiscard]] bool available() const override { return m_available; }
+    [[nodiscard]] bool isUndecided() const override;
     [[nodiscard]] QList<QRect> panelRects() const override;
     [[nodiscard]] std::optional<QColor> panelColor(const QRect& item) const override;
 

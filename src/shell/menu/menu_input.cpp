@@ -73,6 +73,8 @@ bool MenuInput::eventFilter(QObject* watched, QEvent* event)
     if (!watched->isWindowType())
         return false;
     const auto& window = static_cast<const QWindow&>(*watched);
+    if (m_menu.isFreeStanding() && !isOfMenu(window))
+        return false;
     switch (event->type()) {
     case QEvent::Enter:
         pointerMoved(static_cast<QEnterEvent*>(event)->globalPosition().toPoint());
@@ -92,6 +94,14 @@ bool MenuInput::eventFilter(QObject* watched, QEvent* event)
     default:
         return false;
     }
+}
+
+bool MenuInput::isOfMenu(const QWindow& window) const
+{
+    const StatusMenu* menu = &innermostMenu();
+    while (menu && menu->windowHandle() != &window)
+        menu = menu->parentMenu();
+    return menu;
 }
 
 StatusMenu* MenuInput::menuAt(QPoint global) const

@@ -42,6 +42,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    [[nodiscard]] bool isOfMenu(const QWindow& window) const;
     /// The open menu under a point of the screen; none outside.
     [[nodiscard]] StatusMenu* menuAt(QPoint global) const;
     [[nodiscard]] StatusMenu& innermostMenu() const;

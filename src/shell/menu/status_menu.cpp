@@ -154,8 +154,26 @@ void StatusMenu::popUpBeside(const QRect& anchor, const QList<QRect>& panels)
     openWhenInputIsFree(grabAttempts);
 }
 
+void StatusMenu::openFreeStanding(std::optional<QPoint> position)
+{
+    if (!isVisible()) {
+        m_isFreeStanding = true;
+        setAttribute(Qt::WA_X11NetWmWindowTypePopupMenu, false);
+        setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                       Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint);
+        setWindowTitle(QCoreApplication::applicationName());
+        if (position)
+            move(*position);
+        Q_EMIT aboutToShow();
+        open();
+    }
+    bringToFront(*this);
+}
+
 void StatusMenu::pressedOutside(QPoint global)
 {
+    if (m_isFreeStanding)
+        return closeSubmenu();
     const ClickGuard::Time now{m_clock.elapsed()};
     if (m_clicks.repeatsOpening(global, now))
         return;
@@ -231,7 +249,8 @@ void StatusMenu::occupy(const QRect& place)
     // Only a window of one size is left alone by tiling window managers.
     if (windowType() != Qt::Popup)
         setFixedSize(place.size());
-    setGeometry(place);
+    if (!m_isFreeStanding)
+        setGeometry(place);
 }
 
 void StatusMenu::fitToRows()

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 namespace tarnwick {
 
@@ -59,6 +60,12 @@ public:
     /// events of a click that has been answered do nothing. The menu keeps off the panels, which
     /// are given like the anchor in logical coordinates of all screens.
     void popUpBeside(const QRect& anchor, const QList<QRect>& panels);
+    /// Opens the menu as a window with a frame, for desktops without a status bar: it stays until
+    /// the user closes it. The desktop places it unless told where. If it is open, it comes to the
+    /// front.
+    void openFreeStanding(std::optional<QPoint> position = {});
+    [[nodiscard]] bool isFreeStanding() const { return m_isFreeStanding; }
+
     /// Answers a press outside of all menus: closes them, unless it belongs to the click that
     /// opened the menu.
     void pressedOutside(QPoint global);
@@ -88,6 +95,7 @@ private:
     HostedRow* m_activeRow = nullptr;
     std::unique_ptr<MenuInput> m_input;
 
+    bool m_isFreeStanding = false;
     QRect m_anchor;
     QList<QRect> m_panels;
     ClickGuard m_clicks;
