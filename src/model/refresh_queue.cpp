@@ -5,6 +5,8 @@ namespace tarnwick {
 
 void RefreshQueue::add(const RepoViewModels& models)
 {
+    for (const auto& record : models)
+        record->announceRefresh();
     m_waiting.insert(m_waiting.end(), models.begin(), models.end());
     scheduleNext();
 }
@@ -26,6 +28,7 @@ void RefreshQueue::refreshNext()
     const auto record = std::move(m_waiting.front());
     m_waiting.pop_front();
     record->refreshStatusInBackground();
+    record->withdrawAnnouncement();
     record->refreshBranch();
     scheduleNext();
 }

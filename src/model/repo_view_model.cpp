@@ -98,8 +98,14 @@ void RepoViewModel::refreshStatus()
 
 void RepoViewModel::refreshStatusInBackground()
 {
-    if (m_isRepo)
-        m_services.queue.post([self = shared_from_this()] { self->refreshStatus(); });
+    if (!m_isRepo)
+        return;
+    countAwaitedQuery(1);
+    m_services.queue.post([self = shared_from_this()] {
+        self->refreshStatus();
+        QMetaObject::invokeMethod(
+            self.get(), [self] { self->countAwaitedQuery(-1); }, Qt::QueuedConnection);
+    });
 }
 
 void RepoViewModel::applyStatus(const QString& text)
@@ -107,6 +113,12 @@ void RepoViewModel::applyStatus(const QString& text)
     m_gitStatus = text;
     setStatusString(statusSummary(text));
     setIsLoading(false);
+}
+
+void RepoViewModel::countAwaitedQuery(int difference)
+{
+    m_awaitedQueries += difference;
+    Q_EMIT isAwaitedChanged();
 }
 
 QStringList RepoViewModel::changedFiles(qsizetype limit) const

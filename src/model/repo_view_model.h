@@ -74,6 +74,8 @@ public:
 
     [[nodiscard]] bool isRepo() const { return m_isRepo; }
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
+    /// Whether a refresh of this record is waiting or running.
+    [[nodiscard]] bool isAwaited() const { return m_awaitedQueries > 0; }
     [[nodiscard]] const std::optional<QString>& statusString() const { return m_statusString; }
     [[nodiscard]] const std::optional<QString>& branchString() const { return m_branchString; }
     /// The repository's page in the web; not necessarily a valid address. Learnt once, at creation.
@@ -86,6 +88,9 @@ public:
     /// Blocks for one git run on whatever thread calls it; its results arrive on the main thread.
     void refreshStatus();
     void refreshStatusInBackground();
+    /// Makes the record awaited until the opposite call; for who will refresh it later.
+    void announceRefresh() { countAwaitedQuery(1); }
+    void withdrawAnnouncement() { countAwaitedQuery(-1); }
 
     // Read from `gitStatus`; see git_status.h.
     [[nodiscard]] SummaryPart changesString() const { return summaryParts(raw()).changes; }
@@ -131,6 +136,7 @@ public:
 Q_SIGNALS:
     void isRepoChanged();
     void isLoadingChanged();
+    void isAwaitedChanged();
     void statusStringChanged();
     void branchStringChanged();
     void remoteUrlChanged();
@@ -144,6 +150,7 @@ private:
     void applyStatus(const QString& text);
     [[nodiscard]] QString raw() const { return m_gitStatus.value_or(QString()); }
 
+    void countAwaitedQuery(int difference);
     void setIsRepo(bool isRepo);
     void setIsLoading(bool isLoading);
     void setStatusString(std::optional<QString> statusString);
@@ -158,6 +165,7 @@ private:
 
     bool m_isRepo = true;
     bool m_isLoading = false;
+    int m_awaitedQueries = 0;
     std::optional<QString> m_statusString;
     std::optional<QString> m_branchString;
     std::optional<QString> m_remoteUrl;

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QObject>
 #include <QRect>
+#include <QString>
 
 #include <optional>
 
@@ -38,6 +39,13 @@ public:
 
     /// Whether it is still being found out if there is a place, which takes seconds at most.
     [[nodiscard]] virtual bool isUndecided() const { return false; }
+
+    /// What to give an entry of the item's menu so that this text is shown as it is: in menus some
+    /// characters have a meaning.
+    [[nodiscard]] virtual QString literalMenuText(QString text) const
+    {
+        return text.replace(u'&', QStringLiteral("&&"));
+    }
 
     /// Where the desktop's panels are to be seen now, in logical coordinates of all screens; empty
     /// where none is, or where the desktop does not tell. Asks anew each time.

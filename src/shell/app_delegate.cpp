@@ -146,7 +146,7 @@ std::shared_ptr<RepoViewModelDelegate> AppDelegate::newRecordDelegate()
 
 void AppDelegate::makeStatusItem()
 {
-    m_statusBarItem = std::make_unique<StatusItem>(*m_platform.trayHost);
+    m_statusBarItem = std::make_unique<StatusItem>(*m_platform.trayHost, m_appMenu->overview());
     connect(m_statusBarItem.get(), &StatusItem::triggered, this, &AppDelegate::openMenu);
     const auto answer = [this] {
         if (m_isAwaited)
@@ -155,6 +155,7 @@ void AppDelegate::makeStatusItem()
     connect(m_platform.trayHost.get(), &TrayHost::missed, this, answer);
     connect(m_platform.trayHost.get(), &TrayHost::appeared, this,
             [this, answer] { QTimer::singleShot(placingTime, this, answer); });
+    connect(m_statusBarItem.get(), &StatusItem::panelRequested, this, &AppDelegate::openPanel);
     connect(m_statusBarItem.get(), &StatusItem::refreshAllRequested, m_appMenu.get(),
             &ApplicationMenu::refreshAll);
     connect(m_statusBarItem.get(), &StatusItem::settingsRequested, this,
@@ -164,6 +165,13 @@ void AppDelegate::makeStatusItem()
 void AppDelegate::openMenu(const QRect& anchor)
 {
     m_menu->popUpBeside(anchor, m_platform.trayHost->panelRects());
+}
+
+void AppDelegate::openPanel(qsizetype repository)
+{
+    if (!m_menu->isVisible())
+        openMenu(m_statusBarItem->anchor());
+    m_menu->showSubmenuOf(ApplicationMenu::repositoryRow(*m_menu, repository));
 }
 
 } // namespace tarnwick

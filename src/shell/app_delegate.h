@@ -61,6 +61,7 @@ public:
 private:
     void makeStatusItem();
     void openMenu(const QRect& anchor);
+    void openPanel(qsizetype repository);
 
     Platform& m_platform;
     const BundleInfo& m_bundle;

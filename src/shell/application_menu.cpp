@@ -12,6 +12,7 @@
 #include "shell/content_window.h"
 #include "shell/menu/hosted_row.h"
 #include "shell/menu/hosting_view.h"
+#include "shell/menu/row_column.h"
 #include "shell/menu/status_menu.h"
 #include "shell/top_row/refresh_view.h"
 #include "shell/updates/updater.h"
@@ -63,19 +64,24 @@ ApplicationMenu::ApplicationMenu(Platform& platform, const BundleInfo& bundle,
 std::unique_ptr<StatusMenu> ApplicationMenu::buildMenu(const RepoManager& repositories)
 {
     writeFirstRunDefaults(m_store);
-    m_models = repositories.models();
+    m_overview.setModels(repositories.models());
 
     auto menu = std::make_unique<StatusMenu>();
     addRefreshRow(*menu);
     menu->addSeparator();
-    if (m_models.empty())
+    if (models().empty())
         addEmptyStateItem(*menu);
     const QList<AppEntry> applications =
         loadAppEntries(m_store, *m_platform.systemApplications, *m_platform.userApplications);
-    const QStringList names = spokenNames(m_models);
-    for (std::size_t i = 0; i < m_models.size(); ++i)
-        addRepositoryItem(m_models[i], names[static_cast<qsizetype>(i)], applications, *menu);
+    const QStringList names = spokenNames(models());
+    for (std::size_t i = 0; i < models().size(); ++i)
+        addRepositoryItem(models()[i], names[static_cast<qsizetype>(i)], applications, *menu);
     return menu;
+}
+
+HostedRow& ApplicationMenu::repositoryRow(const StatusMenu& menu, qsizetype index)
+{
+    return *menu.column().rows().at(1 + index); // the first holds the global controls
 }
 
 void ApplicationMenu::openLinkEditor(const std::shared_ptr<RepoViewModel>& record)
@@ -102,7 +108,7 @@ void ApplicationMenu::addd()
 
 void ApplicationMenu::releaseModels()
 {
-    m_models.clear();
+    m_overview.setModels({});
     m_refreshQueue.clear();
 }
 
@@ -112,6 +118,11 @@ void ApplicationMenu::addRefreshRow(StatusMenu& menu) const
         std::make_unique<StandardUpdaterController>(updateSettings(m_bundle, m_runner), true);
     auto* const controls = new RefreshView(std::move(controller), m_bundle);
     connect(controls, &RefreshView::refreshRequested, this, &ApplicationMenu::refreshAll);
+    const auto showProgress = [this, controls] {
+        controls->setProgress(m_overview.progressText());
+    };
+    connect(&m_overview, &RepoOverview::changed, controls, showProgress);
+    showProgress();
     connect(controls, &RefreshView::settingsRequested, this, &ApplicationMenu::settingsRequested);
     auto* const row = new HostingView(controls);
     row->setText(controls->text());

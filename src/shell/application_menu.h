@@ -2,7 +2,7 @@
 #pragma once
 
 #include "model/refresh_queue.h"
-#include "model/repo_view_model.h"
+#include "model/repo_overview.h"
 
 #include <QList>
 #include <QObject>
@@ -12,6 +12,7 @@
 namespace tarnwick {
 
 class BundleInfo;
+class HostedRow;
 class PreferencesStore;
 class RepoManager;
 class SettingsHost;
@@ -31,11 +32,15 @@ public:
                     PreferencesStore& store, SettingsHost& host);
 
     /// The records of the menu built last; a refresh works on these, not on the live list.
-    [[nodiscard]] const RepoViewModels& models() const { return m_models; }
+    [[nodiscard]] const RepoViewModels& models() const { return m_overview.models(); }
+    [[nodiscard]] const RepoOverview& overview() const { return m_overview; }
 
     /// Writes the first-run defaults into a fresh store, takes the list's records as they are now
     /// and makes a row for each.
     [[nodiscard]] std::unique_ptr<StatusMenu> buildMenu(const RepoManager& repositories);
+
+    /// The row of the repository at this index of the records that the menu was built of.
+    [[nodiscard]] static HostedRow& repositoryRow(const StatusMenu& menu, qsizetype index);
 
     void openLinkEditor(const std::shared_ptr<RepoViewModel>& record) override;
 
@@ -44,7 +49,7 @@ public:
     void refreshOnOpen();
     void refreshIfEnabled();
     /// Returns at once; see refresh_queue.h.
-    void refreshAll() { m_refreshQueue.add(m_models); }
+    void refreshAll() { m_refreshQueue.add(models()); }
 
     /// Writes "asd" to standard output: tells whether an action reaches this object.
     void addd();
@@ -69,7 +74,7 @@ private:
     const CommandRunner& m_runner;
     PreferencesStore& m_store;
     SettingsHost& m_host;
-    RepoViewModels m_models;
+    RepoOverview m_overview;
     RefreshQueue m_refreshQueue;
 };
 

@@ -2,6 +2,7 @@
 #include "shell/status_item.h"
 
 #include "model/diagnostics.h"
+#include "model/repo_overview.h"
 #include "platform/tray_host.h"
 #include "views/colors.h"
 #include "views/symbols.h"
@@ -37,11 +38,13 @@ QIcon templateIcon()
 
 } // namespace
 
-StatusItem::StatusItem(TrayHost& host, QObject* parent)
+StatusItem::StatusItem(TrayHost& host, const RepoOverview& overview, QObject* parent)
     : QObject(parent)
     , m_host(host)
+    , m_overview(overview)
+    , m_contextMenu(host)
 {
-    fillContextMenu();
+    connectMenu();
     // A panel takes a moment to show the item, or to repaint itself after a change of theme.
     m_panelTimer.setSingleShot(true);
     m_panelTimer.setInterval(500ms);
@@ -60,24 +63,31 @@ StatusItem::StatusItem(TrayHost& host, QObject* parent)
     });
 }
 
-void StatusItem::fillContextMenu()
+void StatusItem::connectMenu()
 {
-    connect(m_contextMenu.addAction(tr("Show repositories")), &QAction::triggered, this,
-            [this] { Q_EMIT triggered(anchor()); });
-    connect(m_contextMenu.addAction(tr("Refresh all")), &QAction::triggered, this,
-            &StatusItem::refreshAllRequested);
-    connect(m_contextMenu.addAction(tr("Settings")), &QAction::triggered, this,
-            &StatusItem::settingsRequested);
-    m_contextMenu.addSeparator();
-    connect(m_contextMenu.addAction(tr("Quit")), &QAction::triggered, qApp,
-            &QCoreApplication::quit);
+    connect(&m_contextMenu, &ItemMenu::menuRequested, this, [this] { Q_EMIT triggered(anchor()); });
+    connect(&m_contextMenu, &ItemMenu::panelRequested, this, &StatusItem::panelRequested);
+    connect(&m_contextMenu, &ItemMenu::refreshAllRequested, this, &StatusItem::refreshAllRequested);
+    connect(&m_contextMenu, &ItemMenu::settingsRequested, this, &StatusItem::settingsRequested);
+    connect(&m_overview, &RepoOverview::changed, this, &StatusItem::showTexts);
+}
+
+void StatusItem::showTexts()
+{
+    QStringList texts;
+    for (const auto& record : m_overview.models())
+        texts += briefText(*record);
+    m_contextMenu.setRepositories(texts);
+    const QString toolTip = tr("Tarnwick: %1").arg(m_overview.text());
+    if (m_icon && m_icon->toolTip() != toolTip) // Qt tells the host even of the same
+        m_icon->setToolTip(toolTip);
 }
 
 void StatusItem::showIcon()
 {
     if (!m_icon) {
         m_icon = std::make_unique<QSystemTrayIcon>();
-        m_icon->setToolTip(QStringLiteral("Tarnwick"));
+        showTexts();
         if (m_host.itemStyle() == ItemStyle::Template)
             m_icon->setIcon(templateIcon());
         else

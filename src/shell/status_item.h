@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/item_menu.h"
+
 #include <QColor>
-#include <QMenu>
 #include <QObject>
 #include <QSystemTrayIcon>
 #include <QTimer>
@@ -11,6 +12,7 @@
 
 namespace tarnwick {
 
+class RepoOverview;
 class TrayHost;
 
 /// The program's one item in the status bar: a glyph in a colour that stands out there.
@@ -23,7 +25,8 @@ class StatusItem : public QObject
     Q_OBJECT
 
 public:
-    explicit StatusItem(TrayHost& host, QObject* parent = nullptr);
+    /// `overview` is what its tooltip and its menu tell about; it outlives the item, too.
+    StatusItem(TrayHost& host, const RepoOverview& overview, QObject* parent = nullptr);
 
     /// Where the item is on the screen or, on panels that do not tell, an empty rectangle at the
     /// pointer. To be asked only once the item is placed.
@@ -34,17 +37,21 @@ public:
 Q_SIGNALS:
     /// The user asked for the repositories at `anchor()`. A double click asks twice.
     void triggered(const QRect& anchor);
+    /// The user chose a repository of the list in the item's menu.
+    void panelRequested(qsizetype repository);
     void refreshAllRequested();
     void settingsRequested();
 
 private:
-    void fillContextMenu();
+    void connectMenu();
     void showIcon();
+    void showTexts();
     void onActivated(QSystemTrayIcon::ActivationReason reason);
     void updateColor();
 
     TrayHost& m_host;
-    QMenu m_contextMenu;
+    const RepoOverview& m_overview;
+    ItemMenu m_contextMenu;
     std::unique_ptr<QSystemTrayIcon> m_icon;
     QTimer m_panelTimer;
     /// Of the last click.

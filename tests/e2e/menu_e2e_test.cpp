@@ -143,13 +143,13 @@ private Q_SLOTS:
         RunningProgram program({{u"repos"_s, repository.dir()}});
         QTRY_VERIFY_WITH_TIMEOUT(!statusItemPosition().isNull(), 20000);
         QTRY_COMPARE(program.printedCount(statusRun), 3);
-        // "Refresh all" is the second entry; a menu may take a moment to accept keys.
+        // "Refresh all" is the third entry; a menu may take a moment to accept keys.
         QVERIFY(QTest::qWaitFor(
             [&] {
                 const QImage closed = screenshot();
                 click(statusItemPosition(), 3);
                 static_cast<void>(QTest::qWaitFor([&] { return screenshot() != closed; }, 2000));
-                xdotool({u"key"_s, u"Down"_s, u"Down"_s, u"Return"_s});
+                xdotool({u"key"_s, u"Down"_s, u"Down"_s, u"Down"_s, u"Return"_s});
                 return QTest::qWaitFor([&] { return program.printedCount(statusRun) == 5; }, 2000);
             },
             15000));

@@ -81,6 +81,33 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(dir + u"/pwned"_s) && !QFile::exists(u"pwned"_s));
     }
 
+    void exportedMenuTellsTheState()
+    {
+        const TemporaryRepository quiet(u"a_quiet"_s);
+        const TemporaryRepository slow(u"slow"_s);
+        const RunningProgram program({{u"repos"_s, quiet.dir() + u'\n' + slow.dir()}});
+        const auto told = [](int lines) {
+            return runScript(u"exported_menu.py"_s).split(u'\n').mid(0, lines);
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(
+            told(4),
+            (QStringList{u"Tarnwick: 2 repositories watched, all clean"_s, u"Show repositories"_s,
+                         u"a__quiet, main"_s, u"slow, main"_s}),
+            20000);
+        runScript(u"exported_menu.py"_s, {u"slow"_s});
+        QVERIFY(!appeared(u"Actions for slow"_s).name.isEmpty());
+
+        slow.run({u"echo '* filter=slow' > .git/info/attributes; echo changed > a"_s,
+                  u"git config filter.slow.clean 'sleep 4; cat'"_s});
+        runScript(u"exported_menu.py"_s, {u"Refresh all"_s});
+        QVERIFY(!appeared(u"Refresh all repositories: 1 still being asked"_s).name.isEmpty());
+        QCOMPARE(told(1).constFirst(),
+                 u"Tarnwick: 2 repositories watched, all clean; 1 still being asked"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(told(4).constLast(), u"slow, main, 1 change"_s, 10000);
+        QTRY_COMPARE(told(1).constFirst(), u"Tarnwick: 2 repositories watched, 1 not clean"_s);
+        QVERIFY(accessibleNamed(u"Refresh all repositories: "_s).name.isEmpty());
+    }
+
     void gitRunsInTheTerminal()
     {
         const OutsideWorld world;

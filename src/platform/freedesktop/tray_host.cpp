@@ -8,6 +8,7 @@
 #include <QScreen>
 
 #include <chrono>
+#include <utility>
 
 namespace tarnwick {
 
@@ -61,8 +62,26 @@ bool FreedesktopTrayHost::isUndecided() const
 void FreedesktopTrayHost::acceptHost()
 {
     m_trayTimer.stop();
+    if (!m_available)
+        m_exportsMenu = m_notifier.state() == StatusNotifierWatcher::State::HostRegistered;
     m_available = true;
     Q_EMIT appeared();
+}
+
+QString FreedesktopTrayHost::literalMenuText(QString text) const
+{
+    if (!m_exportsMenu)
+        return TrayHost::literalMenuText(std::move(text));
+    // An exported text marks its access key by an underscore, and a literal one by two; but GNOME's
+    // extension takes away the first single one and leaves the others alone.
+    const bool isGnome =
+        qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(QStringLiteral("GNOME"));
+    if (!isGnome)
+        text.replace(u'_', QStringLiteral("__"));
+    // Qt makes an underscore of the first ampersand alone.
+    if (isGnome || text.contains(u'&'))
+        text.prepend(u'&');
+    return text;
 }
 
 QList<QRect> FreedesktopTrayHost::panelRects() const

@@ -26,6 +26,7 @@ public:
 
     [[nodiscard]] bool available() const override { return m_available; }
     [[nodiscard]] bool isUndecided() const override;
+    [[nodiscard]] QString literalMenuText(QString text) const override;
     [[nodiscard]] QList<QRect> panelRects() const override;
     [[nodiscard]] std::optional<QColor> panelColor(const QRect& item) const override;
 
@@ -39,6 +40,8 @@ private:
     DockWindows m_docks;
     QTimer m_trayTimer;
     bool m_available = false;
+    /// Whether the item's menu is shown by the panel, told over the session bus, and not by Qt.
+    bool m_exportsMenu = false;
 };
 
 } // namespace tarnwick

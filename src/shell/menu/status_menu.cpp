@@ -133,6 +133,12 @@ void StatusMenu::openSubmenuOf(HostedRow& row)
         wanted->open();
 }
 
+void StatusMenu::showSubmenuOf(HostedRow& row)
+{
+    m_column->reveal(row);
+    openSubmenuOf(row);
+}
+
 void StatusMenu::closeSubmenu()
 {
     if (StatusMenu* const submenu = openSubmenu())

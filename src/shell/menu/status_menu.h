@@ -53,6 +53,8 @@ public:
     /// Makes the row the active one and opens its submenu in place of another row's; a row without
     /// one just closes that.
     void openSubmenuOf(HostedRow& row);
+    /// Brings the row into view first.
+    void showSubmenuOf(HostedRow& row);
     void closeSubmenu();
 
     /// Answers a click on the status item at `anchor`, or at the pointer if the item's place is not

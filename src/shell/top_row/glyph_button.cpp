@@ -17,6 +17,11 @@ constexpr int glyphSize = 14;
 GlyphButton::GlyphButton(char32_t glyph, const QString& action, QWidget* parent)
     : QPushButton(glyphText(glyph), parent)
 {
+    setAction(action);
+}
+
+void GlyphButton::setAction(const QString& action)
+{
     setToolTip(action);
     setAccessibleName(action);
 }

@@ -13,6 +13,9 @@ class GlyphButton : public QPushButton
 public:
     GlyphButton(char32_t glyph, const QString& action, QWidget* parent = nullptr);
 
+    /// Says what it does, and how far that is.
+    void setAction(const QString& action);
+
     /// To be called whenever the font changes: glyph and button keep their proportion to it.
     void setInterfaceFont(const QFont& interfaceFont);
 };

@@ -43,6 +43,12 @@ QString RefreshView::text() const
     return tr("Tarnwick %1").arg(m_buildNumber);
 }
 
+void RefreshView::setProgress(const QString& progress)
+{
+    m_refresh->setAction(progress.isEmpty() ? tr("Refresh all repositories")
+                                            : tr("Refresh all repositories: %1").arg(progress));
+}
+
 QSize RefreshView::sizeHint() const
 {
     return {row::width, layout()->heightForWidth(row::width)};
@@ -60,8 +66,9 @@ void RefreshView::changeEvent(QEvent* event)
 void RefreshView::layOut()
 {
     auto* const update = new CheckForUpdatesView(m_updaterController->updater(), this);
-    auto* const refresh = new GlyphButton(glyph::refresh, tr("Refresh all repositories"), this);
-    connect(refresh, &QAbstractButton::clicked, this, &RefreshView::refreshRequested);
+    m_refresh = new GlyphButton(glyph::refresh, {}, this);
+    setProgress({});
+    connect(m_refresh, &QAbstractButton::clicked, this, &RefreshView::refreshRequested);
     auto* const settings = new GlyphButton(glyph::settings, tr("Settings"), this);
     connect(settings, &QAbstractButton::clicked, this, &RefreshView::settingsRequested);
     auto* const quit = new GlyphButton(glyph::quit, tr("Quit Tarnwick"), this);
@@ -72,7 +79,7 @@ void RefreshView::layOut()
     line->setSpacing(spacing);
     line->addWidget(m_name, 0, Qt::AlignVCenter);
     line->addStretch(1);
-    for (GlyphButton* const button : {static_cast<GlyphButton*>(update), refresh, settings, quit})
+    for (GlyphButton* const button : {static_cast<GlyphButton*>(update), m_refresh, settings, quit})
         line->addWidget(button, 0, Qt::AlignVCenter);
 }
 

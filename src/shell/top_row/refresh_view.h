@@ -8,6 +8,7 @@
 namespace tarnwick {
 
 class BundleInfo;
+class GlyphButton;
 class StandardUpdaterController;
 class TextLine;
 
@@ -25,6 +26,8 @@ public:
 
     /// What the row says besides its buttons.
     [[nodiscard]] QString text() const;
+    /// How far a refresh is, for the refresh button to say; empty while there is none.
+    void setProgress(const QString& progress);
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -42,6 +45,7 @@ private:
     const std::unique_ptr<StandardUpdaterController> m_updaterController;
     const QString m_buildNumber;
     TextLine* m_name;
+    GlyphButton* m_refresh = nullptr;
 };
 
 } // namespace tarnwick
