@@ -203,4 +203,14 @@ void RepoViewModel::setRemoteUrl(QString remoteUrl)
     Q_EMIT remoteUrlChanged();
 }
 
+void fetchAll(const RepoViewModels& models, TerminalLauncher& terminal)
+{
+    QStringList dirs;
+    for (const auto& record : models) {
+        if (record->isRepo())
+            dirs += absolutePath(record->dir());
+    }
+    terminal.open(fetchAllRequest(dirs));
+}
+
 } // namespace tarnwick

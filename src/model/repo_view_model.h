@@ -174,4 +174,8 @@ private:
 
 using RepoViewModels = std::vector<std::shared_ptr<RepoViewModel>>;
 
+/// Opens one terminal window in which all repositories of the list are fetched; see
+/// terminal_request.h. Returns at once.
+void fetchAll(const RepoViewModels& models, TerminalLauncher& terminal);
+
 } // namespace tarnwick

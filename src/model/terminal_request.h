@@ -10,4 +10,8 @@ namespace tarnwick {
 /// script.
 [[nodiscard]] TerminalRequest terminalRequest(const QString& dir, const QString& gitSubcommand);
 
+/// Asks for a terminal in the home directory in which git fetches each of these that has a remote,
+/// one after the other. The names of those that failed stand at the end.
+[[nodiscard]] TerminalRequest fetchAllRequest(const QStringList& dirs);
+
 } // namespace tarnwick

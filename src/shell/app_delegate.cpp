@@ -87,6 +87,8 @@ void AppDelegate::performAction(const QString& name)
 {
     if (name == u"refresh")
         m_appMenu->refreshAll();
+    else if (name == u"fetch-all")
+        fetchAll(m_appMenu->models(), m_services.terminal);
     else if (name == u"settings")
         openSettings();
     else if (name == u"quit")
@@ -158,6 +160,8 @@ void AppDelegate::makeStatusItem()
     connect(m_statusBarItem.get(), &StatusItem::panelRequested, this, &AppDelegate::openPanel);
     connect(m_statusBarItem.get(), &StatusItem::refreshAllRequested, m_appMenu.get(),
             &ApplicationMenu::refreshAll);
+    connect(m_statusBarItem.get(), &StatusItem::fetchAllRequested, this,
+            [this] { fetchAll(m_appMenu->models(), m_services.terminal); });
     connect(m_statusBarItem.get(), &StatusItem::settingsRequested, this,
             &AppDelegate::openSettings);
 }

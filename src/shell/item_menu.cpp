@@ -22,6 +22,7 @@ ItemMenu::ItemMenu(const TrayHost& host, QWidget* parent)
     m_entriesEnd = addSeparator();
     connect(addAction(tr("Refresh all")), &QAction::triggered, this,
             &ItemMenu::refreshAllRequested);
+    connect(addAction(tr("Fetch all")), &QAction::triggered, this, &ItemMenu::fetchAllRequested);
     connect(addAction(tr("Settings")), &QAction::triggered, this, &ItemMenu::settingsRequested);
     addSeparator();
     connect(addAction(tr("Quit")), &QAction::triggered, qApp, &QCoreApplication::quit);

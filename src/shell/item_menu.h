@@ -30,6 +30,7 @@ Q_SIGNALS:
     /// The menu, with the panel of the repository at this index.
     void panelRequested(qsizetype repository);
     void refreshAllRequested();
+    void fetchAllRequested();
     void settingsRequested();
 
 private:

@@ -68,6 +68,7 @@ void StatusItem::connectMenu()
     connect(&m_contextMenu, &ItemMenu::menuRequested, this, [this] { Q_EMIT triggered(anchor()); });
     connect(&m_contextMenu, &ItemMenu::panelRequested, this, &StatusItem::panelRequested);
     connect(&m_contextMenu, &ItemMenu::refreshAllRequested, this, &StatusItem::refreshAllRequested);
+    connect(&m_contextMenu, &ItemMenu::fetchAllRequested, this, &StatusItem::fetchAllRequested);
     connect(&m_contextMenu, &ItemMenu::settingsRequested, this, &StatusItem::settingsRequested);
     connect(&m_overview, &RepoOverview::changed, this, &StatusItem::showTexts);
 }

@@ -40,6 +40,7 @@ Q_SIGNALS:
     /// The user chose a repository of the list in the item's menu.
     void panelRequested(qsizetype repository);
     void refreshAllRequested();
+    void fetchAllRequested();
     void settingsRequested();
 
 private:

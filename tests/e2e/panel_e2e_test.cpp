@@ -23,10 +23,10 @@ void publish(const TemporaryRepository& repository)
          u"git commit -q --allow-empty -m ahead"_s});
 }
 
-QString headOf(const QString& gitFolder)
+QString headOf(const QString& gitFolder, const QString& branch = u"main"_s)
 {
     QProcess git;
-    git.start(u"git"_s, {u"-C"_s, gitFolder, u"log"_s, u"-1"_s, u"--format=%s"_s, u"main"_s});
+    git.start(u"git"_s, {u"-C"_s, gitFolder, u"log"_s, u"-1"_s, u"--format=%s"_s, branch});
     git.waitForFinished();
     return QString::fromUtf8(git.readAll()).trimmed();
 }
@@ -126,6 +126,12 @@ private Q_SLOTS:
         QVERIFY(openTerminalBy(u"Stash"_s, oddName));
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(repository.dir() + u"/.git/refs/stash"_s), 20000);
         QCOMPARE(world.openTerminals(), 3);
+
+        repository.run({u"cd ../other; git commit -q --allow-empty -m later; git push -q"_s});
+        runScript(u"exported_menu.py"_s, {u"Fetch all"_s});
+        QTRY_COMPARE_WITH_TIMEOUT(headOf(repository.dir(), u"origin/main"_s), u"later"_s, 20000);
+        QCOMPARE(headOf(repository.dir()), u"theirs"_s);
+        QCOMPARE(world.openTerminals(), 4);
         QCOMPARE(program.printedCount(u"/usr/bin/git -C %1 status"_s.arg(repository.dir())), 2);
         for (const auto& [index, command] :
              {std::pair{0, u"push"_s}, {1, u"pull"_s}, {2, u"stash"_s}})

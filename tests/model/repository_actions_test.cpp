@@ -81,6 +81,35 @@ private Q_SLOTS:
         QCOMPARE(commands, (QStringList{u"git push"_s, u"git pull"_s, u"git stash"_s, {}}));
     }
 
+    void fetchesAllInOneTerminal()
+    {
+        const TemporaryRepository local(u"no remote"_s);
+        const TemporaryRepository good(u"it's \"good\" \\"_s);
+        good.run({u"git clone -q --bare . ../up.git; git remote add other ../up.git"_s});
+        const TemporaryRepository gone(u"gone"_s);
+        gone.run({u"git remote add origin /nonexistent"_s});
+        fetchAll({m_bench.record(local.dir()), m_bench.record(gone.dir()),
+                  m_bench.record(u"/nonexistent"_s), m_bench.record(good.dir())},
+                 m_bench.terminal);
+        const TerminalRequest request = m_bench.terminal.requests.takeLast();
+        QProcess terminal;
+        terminal.setProcessChannelMode(QProcess::MergedChannels);
+        terminal.start(request.command.first(), request.command.mid(1));
+        QVERIFY(terminal.waitForFinished());
+        const QString shown = QString::fromUtf8(terminal.readAll());
+        QVERIFY2(shown.endsWith(u"\nCould not fetch:\n  %1\n"_s.arg(gone.dir())),
+                 qPrintable(shown));
+        good.run({u"git rev-parse -q --verify other/main"_s});
+        QVERIFY(!shown.contains(local.dir()) && shown.contains(good.dir()));
+        // A shell that is typed into gets the same words.
+        const QString typed = request.appleScript.section(u'\n', 2, 2).trimmed().mid(11).chopped(1);
+        terminal.start(
+            u"/bin/sh"_s,
+            {u"-c"_s, QString(typed).replace(u"\\\\"_s, u"\\"_s).replace(u"\\\""_s, u"\""_s)});
+        QVERIFY(terminal.waitForFinished());
+        QVERIFY(QString::fromUtf8(terminal.readAll()).endsWith(shown.section(u'\n', -3)));
+    }
+
     void relativePathsAreHandedOutAbsolute()
     {
         const QTemporaryDir folder;
