@@ -135,8 +135,8 @@ void StatusMenu::openSubmenuOf(HostedRow& row)
 
 void StatusMenu::showSubmenuOf(HostedRow& row)
 {
-    m_column->reveal(row);
-    openSubmenuOf(row);
+    m_requestedRow = &row;
+    update();
 }
 
 void StatusMenu::closeSubmenu()
@@ -223,10 +223,24 @@ void StatusMenu::paintEvent(QPaintEvent* /*event*/)
     drawMenuBackground(painter, *this);
     painter.setPen(separatorColor(palette()));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    // On Wayland a submenu needs a menu that is on the screen.
+    if (m_requestedRow)
+        QMetaObject::invokeMethod(this, &StatusMenu::openRequestedSubmenu, Qt::QueuedConnection);
+}
+
+void StatusMenu::openRequestedSubmenu()
+{
+    HostedRow* const row = std::exchange(m_requestedRow, nullptr);
+    if (!row || !isVisible())
+        return;
+    m_column->reveal(*row);
+    openSubmenuOf(*row);
 }
 
 void StatusMenu::openWhenInputIsFree(int attempts)
 {
+    if (attempts == 0)
+        m_requestedRow = nullptr;
     if (isVisible() || attempts == 0)
         return;
     if (!inputIsFree()) {

@@ -53,7 +53,7 @@ public:
     /// Makes the row the active one and opens its submenu in place of another row's; a row without
     /// one just closes that.
     void openSubmenuOf(HostedRow& row);
-    /// Brings the row into view first.
+    /// Brings the row into view and opens its submenu once the menu is on the screen.
     void showSubmenuOf(HostedRow& row);
     void closeSubmenu();
 
@@ -88,6 +88,7 @@ private:
     void openWhenInputIsFree(int attempts);
     void open();
     void occupy(const QRect& place);
+    void openRequestedSubmenu();
     void fitToRows();
     [[nodiscard]] QRect placement() const;
     [[nodiscard]] const QScreen& shownScreen() const;
@@ -95,6 +96,7 @@ private:
 
     RowColumn* const m_column;
     HostedRow* m_activeRow = nullptr;
+    HostedRow* m_requestedRow = nullptr;
     std::unique_ptr<MenuInput> m_input;
 
     bool m_isFreeStanding = false;
