@@ -2,7 +2,9 @@
 #include "model/preferences_file.h"
 
 #include "model/diagnostics.h"
+#include "platform/changed_values.h"
 #include "platform/durable_file.h"
+#include "platform/regular_file.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -10,7 +12,7 @@
 #include <QJsonDocument>
 #include <QStandardPaths>
 
-#include <optional>
+#include <utility>
 
 namespace tarnwick {
 
@@ -18,14 +20,10 @@ namespace {
 
 constexpr qint64 maxFileSize = 16 * 1024 * 1024;
 
-std::optional<QByteArray> readFile(const QFileInfo& info)
+bool isThere(const QString& path)
 {
-    // Opening a pipe would block, and a device may never end.
-    QFile file(info.filePath());
-    if (!info.isFile() || info.size() > maxFileSize || !file.open(QIODevice::ReadOnly))
-        return {};
-    QByteArray bytes = file.read(maxFileSize);
-    return file.error() == QFile::NoError ? std::optional(std::move(bytes)) : std::nullopt;
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
 }
 
 /// Moves a file out of the way under a name that nothing else has.
@@ -50,16 +48,19 @@ QString PreferencesFile::defaultPath()
 
 QJsonObject PreferencesFile::load()
 {
-    const QFileInfo info(m_path);
-    if (!info.exists() && !info.isSymLink())
+    const WriterLock lock(m_path);
+    if (!isThere(m_path))
         return {};
-    const auto bytes = readFile(info);
-    const QJsonDocument document = QJsonDocument::fromJson(bytes.value_or(QByteArray()));
+    const FileContent file = readRegularFile(m_path, maxFileSize);
+    m_bytes = file.bytes.value_or(QByteArray());
+    const QJsonDocument document = QJsonDocument::fromJson(m_bytes);
+    m_values = document.object();
     if (document.isObject())
-        return document.object();
-    m_isWritable = bytes && setAside(m_path);
-    const QString problem = bytes ? QStringLiteral(" is no preferences file and ")
-                                  : QStringLiteral(" cannot be read and ");
+        return m_values;
+    m_isWritable = file.bytes && setAside(m_path);
+    const QString problem = file.bytes
+                                ? QStringLiteral(" is no preferences file and ")
+                                : QStringLiteral(" cannot be read (%1) and ").arg(file.error);
     writeDiagnosticLine(m_path + problem +
                         (m_isWritable
                              ? QStringLiteral("was set aside")
@@ -67,12 +68,49 @@ QJsonObject PreferencesFile::load()
     return {};
 }
 
-bool PreferencesFile::save(const QJsonObject& values)
+bool PreferencesFile::save(QJsonObject& values)
 {
-    if (!m_isWritable || replaceFileDurably(m_path, QJsonDocument(values).toJson()))
+    if (!m_isWritable)
         return true;
-    writeDiagnosticLine(QStringLiteral("Preferences could not be written to ") + m_path);
-    return false;
+    const WriterLock lock(m_path);
+    QJsonObject merged = values;
+    auto error = merge(merged);
+    const QByteArray bytes = QJsonDocument(merged).toJson();
+    if (!error)
+        error = replaceFileDurably(m_path, bytes);
+    const QString before = std::exchange(m_error, error.value_or(QString()));
+    if (error) {
+        if (m_error != before)
+            writeDiagnosticLine(
+                QStringLiteral("Preferences could not be written to %1: %2").arg(m_path, m_error));
+        return false;
+    }
+    if (!before.isEmpty())
+        writeDiagnosticLine(QStringLiteral("Preferences were written to ") + m_path);
+    m_bytes = bytes;
+    m_values = values = merged;
+    return true;
+}
+
+/// Puts what has changed here into what the file holds by now; nothing, or why that cannot be.
+std::optional<QString> PreferencesFile::merge(QJsonObject& values) const
+{
+    if (!isThere(m_path))
+        return {};
+    const FileContent file = readRegularFile(m_path, maxFileSize);
+    if (!file.bytes)
+        return file.error;
+    if (*file.bytes == m_bytes)
+        return {};
+    const QJsonDocument document = QJsonDocument::fromJson(*file.bytes);
+    if (!document.isObject())
+        return setAside(m_path) ? std::nullopt
+                                : std::optional(QStringLiteral("no preferences file"));
+    const QJsonObject changed = changedValues(m_values, values);
+    values = document.object();
+    for (auto value = changed.begin(); value != changed.end(); ++value)
+        values.insert(value.key(), value.value());
+    return {};
 }
 
 } // namespace tarnwick

@@ -3,7 +3,10 @@
 
 #include "platform/preferences_storage.h"
 
+#include <QByteArray>
 #include <QString>
+
+#include <optional>
 
 namespace tarnwick {
 
@@ -13,6 +16,8 @@ namespace tarnwick {
 /// be read (another owner's file, a link to nowhere, a device, more than 16 MiB) or renamed is left
 /// alone: the storage starts empty, and nothing is ever written. A diagnostic line tells about
 /// either, and about a file that cannot be written.
+/// Where somebody else has changed the file since, the values that have changed here go into what
+/// it holds now.
 class PreferencesFile : public PreferencesStorage
 {
 public:
@@ -24,11 +29,18 @@ public:
     [[nodiscard]] static QString defaultPath();
 
     [[nodiscard]] QJsonObject load() override;
-    [[nodiscard]] bool save(const QJsonObject& values) override;
+    [[nodiscard]] bool save(QJsonObject& values) override;
 
 private:
+    [[nodiscard]] std::optional<QString> merge(QJsonObject& values) const;
+
     const QString m_path;
     bool m_isWritable = true;
+    /// What the file held when it was last read or written.
+    QByteArray m_bytes;
+    QJsonObject m_values;
+    /// Empty after a success.
+    QString m_error;
 };
 
 } // namespace tarnwick

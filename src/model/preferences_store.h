@@ -5,8 +5,11 @@
 #include <QMutex>
 #include <QObject>
 #include <QString>
+#include <QStringList>
+#include <QTimer>
 #include <QVariantMap>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -18,7 +21,9 @@ class PreferencesStorage;
 ///
 /// Reads never fail: an absent or mistyped value reads as absent. Writes are visible to all readers
 /// at once and are saved at the end of the event-loop turn, or in `synchronize()`, or at the latest
-/// in the destructor. Values of other types, put there by hand, are kept as they are.
+/// in the destructor. Saving that fails is tried again, after a second at first and then after ever
+/// longer. What somebody else has changed in the storage is taken over with the next saving. Values
+/// of other types, put there by hand, are kept as they are.
 /// Every operation may be called from any thread; the object itself lives on the main thread.
 class PreferencesStore : public QObject
 {
@@ -41,15 +46,17 @@ public:
     /// Every key with its value, sorted by key.
     [[nodiscard]] QVariantMap dictionaryRepresentation() const;
 
-    /// Returns when all writes are on the disk.
+    /// Returns when all writes are on the disk, or could not be put there.
     void synchronize();
 
 Q_SIGNALS:
-    /// Emitted on the writer's thread after every write, equal values included.
+    /// Emitted on the writer's thread after every write, equal values included, and after a value
+    /// has been taken over.
     void valueWritten(const QString& key);
 
 private:
     void write(const QString& key, const QJsonValue& value);
+    [[nodiscard]] QStringList takeOver(const QJsonObject& saved, const QJsonObject& held);
 
     const std::unique_ptr<PreferencesStorage> m_storage;
 
@@ -60,6 +67,8 @@ private:
 
     /// Taken before `m_valuesMutex`; keeps an older state from replacing a newer one.
     QMutex m_storageMutex;
+    std::chrono::milliseconds m_retryDelay;
+    QTimer m_retryTimer;
 };
 
 } // namespace tarnwick

@@ -3,18 +3,26 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QTemporaryFile>
+#include <QThread>
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 namespace tarnwick {
 
 namespace {
 
-constexpr auto ownerOnlyFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-constexpr auto ownerOnlyFolder = ownerOnlyFile | QFileDevice::ExeOwner;
+constexpr auto ownerOnlyFolder =
+    QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+
+QString systemError()
+{
+    return qt_error_string(errno);
+}
 
 QFileInfo linkTarget(const QString& path)
 {
@@ -24,10 +32,20 @@ QFileInfo linkTarget(const QString& path)
     return file;
 }
 
+/// Hidden, and like no name that a person would give to a copy of the file.
+QString temporaryPrefix(const QFileInfo& target)
+{
+    return u'.' + target.fileName() + QStringLiteral(".unfinished-");
+}
+
+int openFolder(const QString& folder)
+{
+    return ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
+
 bool syncFolder(const QString& folder)
 {
-    const int descriptor =
-        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int descriptor = openFolder(folder);
     if (descriptor < 0)
         return false;
     // Some network file systems have nothing to sync for a folder and say so with EINVAL.
@@ -48,21 +66,69 @@ bool makeFolder(const QString& folder)
     return syncFolder(parent);
 }
 
+/// QTemporaryFile makes it 0600 and removes it unless it got its name.
+std::optional<QString> writeAndRename(const QFileInfo& target, const QByteArray& bytes)
+{
+    QTemporaryFile file(target.absolutePath() + u'/' + temporaryPrefix(target) +
+                        QStringLiteral("XXXXXX"));
+    if (!file.open() || file.write(bytes) != bytes.size() || !file.flush())
+        return file.errorString();
+    const QByteArray from = QFile::encodeName(file.fileName());
+    const QByteArray to = QFile::encodeName(target.absoluteFilePath());
+    if (::fsync(file.handle()) != 0 || std::rename(from.constData(), to.constData()) != 0)
+        return systemError();
+    file.setAutoRemove(false);
+    return {};
+}
+
+void removeTemporaryFiles(const QFileInfo& target)
+{
+    const QDir folder = target.absoluteDir();
+    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden | QDir::NoSymLinks)) {
+        if (name.startsWith(temporaryPrefix(target)))
+            QFile::remove(folder.filePath(name));
+    }
+}
+
 } // namespace
 
-bool replaceFileDurably(const QString& path, const QByteArray& bytes)
+std::optional<QString> replaceFileDurably(const QString& path, const QByteArray& bytes)
 {
     const QFileInfo target = linkTarget(path);
     if (target.exists() && !target.isFile()) // a device, say: root would put a file in its place
-        return false;
+        return QStringLiteral("not a regular file");
     const QString folder = target.absolutePath();
+    errno = 0;
     if (!makeFolder(folder))
-        return false;
-    QSaveFile file(target.absoluteFilePath());
-    return file.open(QIODevice::WriteOnly) && file.setPermissions(ownerOnlyFile) &&
-           file.write(bytes) == bytes.size() && file.flush() &&
-           ::fsync(file.handle()) == 0 // commit() syncs too, but ignores a failure
-           && file.commit() && syncFolder(folder);
+        return systemError();
+    const QByteArray name = QFile::encodeName(target.absoluteFilePath());
+    if (target.exists() && ::access(name.constData(), W_OK) != 0)
+        return systemError();
+    if (const auto error = writeAndRename(target, bytes))
+        return error;
+    return syncFolder(folder) ? std::nullopt : std::optional(systemError());
+}
+
+WriterLock::WriterLock(const QString& path)
+{
+    const QFileInfo target = linkTarget(path);
+    m_folder = openFolder(target.absolutePath());
+    // The system takes the lock back when the process is gone.
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        if (::flock(m_folder, LOCK_EX | LOCK_NB) == 0) {
+            removeTemporaryFiles(target);
+            return;
+        }
+        if (errno != EWOULDBLOCK)
+            return;
+        QThread::msleep(10);
+    }
+}
+
+WriterLock::~WriterLock()
+{
+    if (m_folder >= 0)
+        ::close(m_folder);
 }
 
 } // namespace tarnwick

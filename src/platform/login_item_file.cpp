@@ -2,6 +2,7 @@
 #include "platform/login_item_file.h"
 
 #include "platform/durable_file.h"
+#include "platform/regular_file.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -16,15 +17,13 @@ bool LoginItemFile::write() const
     const QFileInfo program(m_program);
     if (!program.isFile() || !program.isExecutable())
         return false;
-    return isWritten() || replaceFileDurably(m_path, m_content);
+    const WriterLock lock(m_path);
+    return isWritten() || !replaceFileDurably(m_path, m_content);
 }
 
 bool LoginItemFile::isWritten() const
 {
-    QFile file(m_path);
-    // Anything but a file, which a link may lead to, could keep a reader waiting for ever.
-    return QFileInfo(m_path).isFile() && file.open(QIODevice::ReadOnly) &&
-           file.readAll() == m_content;
+    return readRegularFile(m_path, m_content.size()).bytes == m_content;
 }
 
 bool LoginItemFile::remove() const

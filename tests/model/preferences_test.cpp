@@ -122,6 +122,35 @@ private Q_SLOTS:
         QCOMPARE(shell(u"ls -Ali | diff - ../before"_s), 0);
     }
 
+    void twoWritersKeepEachOthersKeys()
+    {
+        writeFile(m_path, R"({"repos": "/old", "x-urls": "u"})");
+        PreferencesStore first(m_path);
+        PreferencesStore second(m_path);
+        const QSignalSpy written(&second, &PreferencesStore::valueWritten);
+        first.setObject(u"/new"_s, u"repos"_s);
+        first.synchronize();
+        second.setBool(true, u"onyIcons"_s);
+        second.synchronize();
+        QCOMPARE(second.stringForKey(u"repos"_s), u"/new"_s);
+        QCOMPARE(written.last().first(), u"repos"_s);
+        QCOMPARE(
+            PreferencesStore(m_path).dictionaryRepresentation(),
+            (QVariantMap{{u"onyIcons"_s, true}, {u"repos"_s, u"/new"_s}, {u"x-urls"_s, u"u"_s}}));
+    }
+
+    void failedWriteIsTriedAgain()
+    {
+        PreferencesStore store(m_path);
+        QCOMPARE(shell(u"mkfifo preferences.json; touch .preferences.json.unfinished-x"_s), 0);
+        store.setBool(true, u"onyIcons"_s);
+        store.synchronize();
+        QCOMPARE(shell(u"test -p preferences.json && rm preferences.json"_s), 0);
+        QTRY_COMPARE(QDir(QFileInfo(m_path).path()).entryList(QDir::Files | QDir::Hidden),
+                     QStringList(u"preferences.json"_s));
+        QVERIFY(PreferencesStore(m_path).boolForKey(u"onyIcons"_s));
+    }
+
     void listIsLoadedAsStored_data()
     {
         const auto row = table<QString, QStringList>("stored", "loaded");

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "platform/changed_values.h"
 #include "platform/macos/bundle_layout.h"
-#include "platform/macos/changed_values.h"
 #include "platform/macos/launch_agent.h"
 #include "platform/macos/terminal_launcher.h"
 #include "support/temporary_repository.h"

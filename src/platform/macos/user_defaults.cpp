@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/macos/user_defaults.h"
 
-#include "platform/macos/changed_values.h"
+#include "platform/changed_values.h"
 #include "platform/macos/core_foundation.h"
 
 namespace tarnwick {
@@ -30,7 +30,7 @@ QJsonObject UserDefaults::load()
     return m_saved;
 }
 
-bool UserDefaults::save(const QJsonObject& values)
+bool UserDefaults::save(QJsonObject& values)
 {
     const QJsonObject changed = changedValues(m_saved, values);
     for (auto value = changed.begin(); value != changed.end(); ++value)

@@ -11,7 +11,7 @@ class UserDefaults : public PreferencesStorage
 {
 public:
     [[nodiscard]] QJsonObject load() override;
-    [[nodiscard]] bool save(const QJsonObject& values) override;
+    [[nodiscard]] bool save(QJsonObject& values) override;
 
 private:
     QJsonObject m_saved;

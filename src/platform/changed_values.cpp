@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/macos/changed_values.h"
+#include "platform/changed_values.h"
 
 namespace tarnwick {
 
