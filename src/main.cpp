@@ -9,6 +9,7 @@
 #include "platform/application_instance.h"
 #include "platform/platform.h"
 #include "platform/terminal_launcher.h"
+#include "platform/termination.h"
 #include "platform/tray_host.h"
 #include "shell/app_delegate.h"
 #include "shell/menu/status_menu_accessible.h"
@@ -56,6 +57,10 @@ int main(int argc, char* argv[])
                                  : PreferencesStore(PreferencesFile::defaultPath());
     CommandRunner runner({.open = platform.openProgram});
     BackgroundQueue queue;
+    const Termination termination([&runner, &store] {
+        runner.endGit();
+        store.synchronize();
+    });
 
     AppDelegate delegate(platform, bundle, store, {runner, queue, *platform.terminal, store});
     QObject::connect(instance.get(), &ApplicationInstance::activated, &delegate,

@@ -3,6 +3,7 @@
 
 #include "model/diagnostics.h"
 #include "model/git_environment.h"
+#include "platform/process_tree.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -43,10 +44,8 @@ void CommandRunner::runGit(const QStringList& arguments, std::shared_ptr<RepoVie
     git.setArguments(arguments);
     git.setInputChannelMode(QProcess::ForwardedInputChannel);
     git.setProcessEnvironment(gitEnvironment(QProcessEnvironment::systemEnvironment()));
-    git.start();
-    if (!git.waitForStarted(noTimeout))
-        stopProcess();
-    git.waitForFinished(noTimeout);
+    if (!runToEnd(git))
+        return;
 
     if (auto output = decodeUtf8(git.readAllStandardOutput())) {
         // Null for a git that hung until after the application object was destroyed.
@@ -63,6 +62,36 @@ void CommandRunner::runGit(const QStringList& arguments, std::shared_ptr<RepoVie
         writeDiagnosticLine(*error);
         completion(QStringLiteral("1?"), *record);
     }
+}
+
+bool CommandRunner::runToEnd(QProcess& git) const
+{
+    QMutexLocker lock(&m_mutex);
+    if (m_hasEnded)
+        return false;
+    lock.unlock();
+    git.start();
+    if (!git.waitForStarted(noTimeout))
+        stopProcess();
+    const qint64 process = git.processId();
+    lock.relock();
+    m_running.insert(process);
+    if (m_hasEnded)
+        git.kill();
+    lock.unlock();
+    git.waitForFinished(noTimeout);
+    lock.relock();
+    m_running.remove(process);
+    return !m_hasEnded;
+}
+
+void CommandRunner::endGit()
+{
+    QMutexLocker lock(&m_mutex);
+    m_hasEnded = true;
+    const QList<qint64> running = m_running.values();
+    lock.unlock();
+    endChildren(running);
 }
 
 void CommandRunner::runOpen(const QStringList& arguments) const

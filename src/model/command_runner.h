@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QMutex>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
 #include <memory>
+
+class QProcess;
 
 namespace tarnwick {
 
@@ -13,7 +17,7 @@ class RepoViewModel;
 
 /// Starts external programs, without a shell in between and without a working directory of their
 /// own. Failures of the programs themselves show only in what they print: exit statuses are never
-/// looked at. Holds nothing between calls, so calls from several threads are independent.
+/// looked at. Calls from several threads are independent.
 class CommandRunner
 {
 public:
@@ -41,12 +45,22 @@ public:
     void runGit(const QStringList& arguments, std::shared_ptr<RepoViewModel> record,
                 Completion completion) const;
 
+    /// Ends every git that runs and all that it has started, so that nothing outlives the program;
+    /// from now on `runGit()` does nothing. Any thread; see process_tree.h.
+    void endGit();
+
     /// Blocks the calling thread until the program has exited. Its channels are ours. If it cannot
     /// be started, one diagnostic line says why.
     void runOpen(const QStringList& arguments) const;
 
 private:
+    /// False if `endGit()` was called before or meanwhile.
+    [[nodiscard]] bool runToEnd(QProcess& git) const;
+
     Programs m_programs;
+    mutable QMutex m_mutex;
+    mutable QSet<qint64> m_running;
+    bool m_hasEnded = false;
 };
 
 /// `path` for programs that may run in another working directory. Only a relative path is changed;

@@ -101,11 +101,12 @@ void RepoViewModel::refreshStatusInBackground()
     if (!m_isRepo)
         return;
     countAwaitedQuery(1);
-    m_services.queue.post([self = shared_from_this()] {
-        self->refreshStatus();
+    // The queue may drop the job for a later one.
+    const std::shared_ptr<void> awaited(nullptr, [self = shared_from_this()](void*) {
         QMetaObject::invokeMethod(
             self.get(), [self] { self->countAwaitedQuery(-1); }, Qt::QueuedConnection);
     });
+    m_services.queue.post([self = shared_from_this(), awaited] { self->refreshStatus(); }, this);
 }
 
 void RepoViewModel::applyStatus(const QString& text)

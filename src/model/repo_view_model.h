@@ -87,6 +87,7 @@ public:
     void refreshBranch();
     /// Blocks for one git run on whatever thread calls it; its results arrive on the main thread.
     void refreshStatus();
+    /// Waits for the end of an earlier query of this record that hangs; see background_queue.h.
     void refreshStatusInBackground();
     /// Makes the record awaited until the opposite call; for who will refresh it later.
     void announceRefresh() { countAwaitedQuery(1); }

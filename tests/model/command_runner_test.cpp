@@ -115,11 +115,18 @@ private Q_SLOTS:
         const auto hung = std::make_shared<QSemaphore>(); // a worker may still be in it at the end
         const int threads = QThread::idealThreadCount();
         for (int i = 0; i < threads; ++i)
-            m_bench.queue.post([hung] { hung->acquire(); });
-        std::atomic_bool ran = false;
-        m_bench.queue.post([&ran] { ran = true; });
-        QTRY_VERIFY_WITH_TIMEOUT(ran, 15000);
-        hung->release(threads);
+            m_bench.queue.post([hung] { hung->acquire(); }, this);
+        std::atomic_int ran = 0;
+        m_bench.queue.post([&ran] { ran = 1; });
+        QTRY_COMPARE_WITH_TIMEOUT(ran, 1, 15000);
+        // One of the same owner waits for the end of all, and only the last one.
+        for (const int number : {2, 3})
+            m_bench.queue.post([&ran, number] { ran += number; }, this);
+        hung->release(threads - 1);
+        m_bench.queue.post([&ran] { ran += 10; });
+        QTRY_COMPARE(ran, 11);
+        hung->release();
+        QTRY_COMPARE(ran, 14);
     }
 
     void hangingJobsDoNotBlockTheEnd()
@@ -137,6 +144,25 @@ private Q_SLOTS:
         queue.reset();
         QVERIFY(timer.elapsed() < 10000);
         hung->release();
+    }
+
+    void endsGitAndWhatItStarted()
+    {
+        const QTemporaryDir dir;
+        const QString proof = dir.filePath(u"started"_s);
+        CommandRunner runner({.git = u"/bin/sh"_s});
+        Delivery delivery;
+        m_bench.queue.post([&] {
+            const QString script = u"trap '' TERM; sleep 1000 & echo $! > \"$0\"; wait"_s;
+            runner.runGit({u"-c"_s, script, proof}, m_record, into(delivery));
+            runner.runGit({u"-c"_s, u"true"_s}, m_record, into(delivery));
+            delivery.count += 100;
+        });
+        QTRY_VERIFY(QFileInfo(proof).size() > 0);
+        runner.endGit();
+        QTRY_COMPARE(delivery.count, 100);
+        const QString ended = u"! grep -q 'State:.[RST]' /proc/$(cat \"$0\")/status"_s;
+        QCOMPARE(QProcess::execute(u"/bin/sh"_s, {u"-c"_s, ended, proof}), 0);
     }
 
     void stops_data()

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "platform/termination.h"
+
+#include <QCoreApplication>
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <mutex>
+#include <thread>
+#include <unistd.h>
+
+namespace tarnwick {
+
+namespace {
+
+constexpr unsigned int timeoutSeconds = 10;
+constexpr std::array signals{SIGTERM, SIGINT, SIGHUP};
+
+std::array<int, 2> channel{-1, -1};
+std::mutex actionMutex;
+
+/// Is not destroyed: the thread may still call it while the process exits.
+std::function<void()>& actionAtEnd()
+{
+    static auto& action = *new std::function<void()>;
+    return action;
+}
+
+void callAction()
+{
+    const std::scoped_lock lock(actionMutex);
+    if (actionAtEnd())
+        actionAtEnd()();
+}
+
+/// Runs in a signal handler.
+void notify(int signal)
+{
+    const int savedError = errno;
+    const char byte = static_cast<char>(signal);
+    static_cast<void>(::write(channel[1], &byte, 1));
+    errno = savedError;
+}
+
+/// The main thread may be waiting for a git that hangs: it cannot take the signals itself.
+void waitForSignals()
+{
+    char byte = 0;
+    for (;;) {
+        const auto count = ::read(channel[0], &byte, 1);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return;
+        std::signal(SIGALRM, SIG_DFL);
+        ::alarm(timeoutSeconds);
+        callAction();
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+    }
+}
+
+void handle(int signal)
+{
+    struct sigaction action = {};
+    if (::sigaction(signal, nullptr, &action) != 0 || action.sa_handler == SIG_IGN)
+        return;
+    action.sa_handler = notify; // children get the default back
+    action.sa_flags = SA_RESTART;
+    ::sigaction(signal, &action, nullptr);
+}
+
+} // namespace
+
+Termination::Termination(std::function<void()> action)
+{
+    actionAtEnd() = std::move(action);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, callAction);
+    std::atexit(callAction);
+    if (::pipe2(channel.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+        return;
+    ::fcntl(channel[0], F_SETFL, 0); // only the handler must not block
+    std::thread(waitForSignals).detach();
+    for (const int signal : signals)
+        handle(signal);
+}
+
+Termination::~Termination()
+{
+    callAction();
+    const std::scoped_lock lock(actionMutex);
+    actionAtEnd() = nullptr;
+}
+
+} // namespace tarnwick
