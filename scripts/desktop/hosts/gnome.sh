@@ -9,7 +9,7 @@ enabled="['$(basename "${extensions[0]}")']"
 scheme=default theme=Adwaita
 [[ $TARNWICK_DESKTOP_THEME != dark ]] || scheme=prefer-dark theme=Adwaita-dark
 mkdir -p "$XDG_CONFIG_HOME/glib-2.0/settings"
-cat >"$XDG_CONFIG_HOME/glib-2.0/settings/keyfile" <<END
+cat >>"$XDG_CONFIG_HOME/glib-2.0/settings/keyfile" <<END
 [org/gnome/shell]
 enabled-extensions=$enabled
 welcome-dialog-last-shown-version='9999'

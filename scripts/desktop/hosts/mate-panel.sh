@@ -3,7 +3,7 @@
 # Becomes MATE's panel, at the top of the current display.
 set -euo pipefail
 mkdir -p "$XDG_CONFIG_HOME/glib-2.0/settings"
-cat >"$XDG_CONFIG_HOME/glib-2.0/settings/keyfile" <<END
+cat >>"$XDG_CONFIG_HOME/glib-2.0/settings/keyfile" <<END
 [org/mate/panel/general]
 toplevel-id-list=['top']
 object-id-list=['windows', 'notification-area']
