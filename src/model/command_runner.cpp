@@ -4,6 +4,7 @@
 #include "model/diagnostics.h"
 #include "model/git_environment.h"
 #include "platform/process_tree.h"
+#include "platform/program_environment.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -43,7 +44,7 @@ void CommandRunner::runGit(const QStringList& arguments, std::shared_ptr<RepoVie
     git.setProgram(m_programs.git);
     git.setArguments(arguments);
     git.setInputChannelMode(QProcess::ForwardedInputChannel);
-    git.setProcessEnvironment(gitEnvironment(QProcessEnvironment::systemEnvironment()));
+    git.setProcessEnvironment(gitEnvironment(programEnvironment()));
     if (!runToEnd(git))
         return;
 
@@ -101,6 +102,7 @@ void CommandRunner::runOpen(const QStringList& arguments) const
     QProcess open;
     open.setProgram(m_programs.open);
     open.setArguments(arguments);
+    open.setProcessEnvironment(programEnvironment());
     open.setProcessChannelMode(QProcess::ForwardedChannels);
     open.setInputChannelMode(QProcess::ForwardedInputChannel);
     open.start();

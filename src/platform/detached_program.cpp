@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/detached_program.h"
 
+#include "platform/program_environment.h"
+
 #include <QProcess>
 
 namespace tarnwick {
@@ -11,6 +13,7 @@ bool startDetached(const QString& program, const QStringList& arguments, const Q
     process.setProgram(program);
     process.setArguments(arguments);
     process.setWorkingDirectory(folder);
+    process.setProcessEnvironment(programEnvironment());
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());

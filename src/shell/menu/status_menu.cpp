@@ -250,6 +250,7 @@ void StatusMenu::openWhenInputIsFree(int attempts)
     }
     Q_EMIT aboutToShow();
     open();
+    becomeKeyWindow();
 }
 
 void StatusMenu::open()
