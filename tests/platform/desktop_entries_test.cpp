@@ -69,7 +69,12 @@ private Q_SLOTS:
         // Neither a pipe without a writer nor a link to nowhere holds anything up.
         QCOMPARE(::mkfifo(path(u"b/applications/p.desktop"_s).toUtf8().constData(), 0600), 0);
         QVERIFY(QFile::link(u"nowhere"_s, path(u"b/applications/link.desktop"_s)));
+        // Neither does the whole disk, its links in circles included, or a file of 1 GB.
+        QVERIFY(QFile::link(u"/"_s, path(u"b/applications/disk"_s)));
+        install(u"b/applications/big.desktop"_s, "Name=Big");
+        QVERIFY(QFile::resize(path(u"b/applications/big.desktop"_s), 1 << 30));
         QTRY_VERIFY(system.contains(u"X.app"_s));
+        QVERIFY(!system.contains(u"Big.app"_s));
         QCOMPARE(system.path(), path(u"b/applications/"_s));
     }
 

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "platform/freedesktop/desktop_entries.h"
 
+#include "platform/regular_file.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QMap>
 #include <QSet>
 #include <QStandardPaths>
 
-#include <gio/gdesktopappinfo.h>
+#include <glib.h>
+#include <memory>
 
 namespace tarnwick {
 
@@ -16,40 +20,125 @@ namespace {
 
 using PathById = QMap<QString, QString>;
 
-/// Whatever goes by the name of a desktop entry: a link to nowhere hides an entry, too.
+// Far more than anybody has installed. What goes beyond is passed over: a link among the entries
+// can lead to the whole disk, and all is read on the main thread.
+constexpr int maxDepth = 6;
+constexpr int maxFiles = 5000;
+constexpr qint64 maxEntrySize = 256 * 1024;
+
+struct Subfolder
+{
+    QString path;
+    int depth;
+};
+
+/// Whatever goes by the name of a desktop entry: a link to nowhere hides an entry, too. The higher
+/// folders come first.
 std::optional<PathById> entryFiles(const QString& folder)
 {
     const QDir root(folder);
     if (!root.isReadable())
         return {};
     PathById files;
-    QDirIterator file(folder, QDir::Files | QDir::System | QDir::Hidden,
-                      QDirIterator::Subdirectories | QDirIterator::FollowSymlinks);
-    while (file.hasNext()) {
-        const QString path = file.next();
-        if (path.endsWith(u".desktop"))
-            files.insert(root.relativeFilePath(path).replace(u'/', u'-'), path);
+    QList<Subfolder> folders{{folder, 1}};
+    int seen = 0;
+    for (qsizetype index = 0; index < folders.size(); ++index) {
+        const Subfolder current = folders[index];
+        QDirIterator file(current.path,
+                          QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
+        while (file.hasNext()) {
+            if (++seen > maxFiles)
+                return files;
+            const QString path = file.next();
+            if (file.fileInfo().isDir()) {
+                if (current.depth < maxDepth)
+                    folders += {path, current.depth + 1};
+            } else if (path.endsWith(u".desktop")) {
+                files.insert(root.relativeFilePath(path).replace(u'/', u'-'), path);
+            }
+        }
     }
     return files;
 }
 
-QString textOf(GDesktopAppInfo* info, const char* key)
+/// The group "Desktop Entry" of a file (Desktop Entry Specification 1.5). GIO's own class for it
+/// would read every application folder there is, through any link.
+class EntryKeys
 {
-    g_autofree char* text = g_desktop_app_info_get_string(info, key);
-    return QString::fromUtf8(text);
+public:
+    explicit EntryKeys(const QByteArray& bytes)
+        : m_isLoaded(g_key_file_load_from_data(m_file.get(), bytes.constData(),
+                                               static_cast<gsize>(bytes.size()), G_KEY_FILE_NONE,
+                                               nullptr))
+    {}
+
+    [[nodiscard]] bool isLoaded() const { return m_isLoaded; }
+    [[nodiscard]] bool flag(const char* key) const
+    {
+        return g_key_file_get_boolean(m_file.get(), G_KEY_FILE_DESKTOP_GROUP, key, nullptr);
+    }
+    [[nodiscard]] QString text(const char* key) const
+    {
+        g_autofree char* text =
+            g_key_file_get_string(m_file.get(), G_KEY_FILE_DESKTOP_GROUP, key, nullptr);
+        return QString::fromUtf8(text);
+    }
+    [[nodiscard]] QStringList list(const char* key) const
+    {
+        return text(key).split(u';', Qt::SkipEmptyParts);
+    }
+
+private:
+    const std::unique_ptr<GKeyFile, decltype(&g_key_file_unref)> m_file{g_key_file_new(),
+                                                                        g_key_file_unref};
+    bool m_isLoaded;
+};
+
+bool isProgram(const QString& name)
+{
+    g_autofree char* found = g_find_program_in_path(QFile::encodeName(name).constData());
+    return found;
+}
+
+/// Whether the programs that the entry speaks of are there; one that it does not name is.
+bool hasPrograms(const EntryKeys& keys)
+{
+    const QString attempted = keys.text(G_KEY_FILE_DESKTOP_KEY_TRY_EXEC);
+    const QString command = keys.text(G_KEY_FILE_DESKTOP_KEY_EXEC);
+    if (!attempted.isEmpty() && !isProgram(attempted))
+        return false;
+    if (command.isEmpty())
+        return true;
+    g_auto(GStrv) arguments = nullptr;
+    return g_shell_parse_argv(command.toUtf8().constData(), nullptr, &arguments, nullptr) &&
+           isProgram(QString::fromUtf8(arguments[0]));
+}
+
+/// The first name of this desktop that the entry mentions decides.
+bool isForThisDesktop(const EntryKeys& keys)
+{
+    const QStringList only = keys.list(G_KEY_FILE_DESKTOP_KEY_ONLY_SHOW_IN);
+    const QStringList never = keys.list(G_KEY_FILE_DESKTOP_KEY_NOT_SHOW_IN);
+    for (const QString& desktop : qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':')) {
+        if (only.contains(desktop))
+            return true;
+        if (never.contains(desktop))
+            return false;
+    }
+    return only.isEmpty();
 }
 
 std::optional<DesktopEntry> shownEntry(const QString& path)
 {
-    if (!QFileInfo(path).isFile())
-        return {}; // opening a pipe would wait for its writer
-    g_autoptr(GDesktopAppInfo) info =
-        g_desktop_app_info_new_from_filename(QFile::encodeName(path).constData());
-    if (!info || g_desktop_app_info_get_is_hidden(info) ||
-        !g_app_info_should_show(G_APP_INFO(info)))
+    const EntryKeys keys(readRegularFile(path, maxEntrySize).bytes.value_or(QByteArray()));
+    if (!keys.isLoaded() ||
+        keys.text(G_KEY_FILE_DESKTOP_KEY_TYPE) !=
+            QStringLiteral(G_KEY_FILE_DESKTOP_TYPE_APPLICATION) ||
+        keys.flag(G_KEY_FILE_DESKTOP_KEY_HIDDEN) || keys.flag(G_KEY_FILE_DESKTOP_KEY_NO_DISPLAY) ||
+        !isForThisDesktop(keys) || !hasPrograms(keys))
         return {};
-    DesktopEntry entry{path, textOf(info, G_KEY_FILE_DESKTOP_KEY_NAME),
-                       textOf(info, G_KEY_FILE_DESKTOP_KEY_ICON)};
+    DesktopEntry entry{path, keys.text(G_KEY_FILE_DESKTOP_KEY_NAME),
+                       keys.text(G_KEY_FILE_DESKTOP_KEY_ICON)};
     return entry.name.isEmpty() ? std::nullopt : std::optional(std::move(entry));
 }
 
