@@ -4,24 +4,32 @@
 
 #include <QApplication>
 
-/// tarnwick_bench FOLDER [--quick]: measures on a desktop without a panel, over the repositories
-/// that make_repositories.sh has made in FOLDER. Fails if a target is missed.
+/// tarnwick_bench FOLDER [--quick] [GROUP...]: measures these groups of figures, or all, on a
+/// desktop without a panel, over the repositories that make_repositories.sh has made in FOLDER.
+/// Fails if a target is missed.
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    const QStringList arguments = QApplication::arguments();
-    const bool quick = arguments.contains(QStringLiteral("--quick"));
+    const QString folder = QApplication::arguments().value(1);
+    QStringList groups = QApplication::arguments().mid(2);
+    const bool quick = groups.removeAll(QStringLiteral("--quick")) > 0;
+    const auto isWanted = [&](const QString& group) {
+        return groups.isEmpty() || groups.contains(group);
+    };
 
     using namespace tarnwick::bench;
     openReport();
-    Bench bench(arguments.value(1));
-    measureGit(bench, quick);
-    measureMenus(bench);
-    measureProcesses(bench.dirs(100), quick);
-    if (!quick) {
+    Bench bench(folder);
+    if (isWanted(QStringLiteral("git")))
+        measureGit(bench, quick);
+    if (isWanted(QStringLiteral("menu")))
+        measureMenus(bench);
+    if (isWanted(QStringLiteral("process")))
+        measureProcesses(bench.dirs(100), quick);
+    if (!quick && isWanted(QStringLiteral("peers")))
         comparePeers(bench);
+    if (!quick && isWanted(QStringLiteral("unranked")))
         measureUnranked(bench);
-    }
     return exitStatus();
 }

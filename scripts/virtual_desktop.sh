@@ -3,7 +3,7 @@
 # Runs a command in a private desktop with a tray and returns the command's exit status:
 #
 #   virtual_desktop.sh [--host NAME] [--size 1280x800] [--dark | --dark-panel] [--scale N]
-#                      -- COMMAND...
+#                      [--no-accessibility] -- COMMAND...
 #
 # NAME is one of desktop/hosts.list, xfce4-panel by default, or none. The command sees its own
 # display, session bus, accessibility bus, HOME and XDG folders, and nothing of the caller's desktop.
@@ -19,13 +19,14 @@ desktop=$scripts/desktop
 
 usage() { sed -n '5,6s/^# *//p' "${BASH_SOURCE[0]}" >&2; exit 64; }
 
-host=xfce4-panel size=1280x800 theme=light scale=1
+host=xfce4-panel size=1280x800 theme=light scale=1 accessibility=true
 while (($#)); do
     case $1 in
     --host) host=${2-}; shift 2 || usage ;;
     --size) size=${2-}; shift 2 || usage ;;
     --scale) scale=${2-}; shift 2 || usage ;;
     --dark | --dark-panel) theme=${1#--}; shift ;;
+    --no-accessibility) accessibility=false; shift ;;
     --) shift; break ;;
     *) usage ;;
     esac
@@ -119,7 +120,7 @@ start_desktop() {
     start xsettingsd
     echo "${pids[-1]}" >"$XDG_RUNTIME_DIR/xsettingsd.pid"
     gdbus call --session --dest org.a11y.Bus --object-path /org/a11y/bus \
-        --method org.freedesktop.DBus.Properties.Set org.a11y.Status IsEnabled '<true>' \
+        --method org.freedesktop.DBus.Properties.Set org.a11y.Status IsEnabled "<$accessibility>" \
         >"$logs/accessibility.log" 2>&1 || give_up "the accessibility bus did not start"
     [[ $session == panel ]] || return 0
     start openbox --sm-disable
