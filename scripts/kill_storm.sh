@@ -17,7 +17,8 @@ output=$folder/output preferences=$folder/config/preferences.json
 last() { sed -n "s/^$1 \([0-9]*\)\$/\1/p" "$output" | tail -n 1; }
 
 for ((kill = 0; kill <= kills; kill++)); do
-    "$program" "$preferences" >"$output" &
+    : >"$output"
+    "$program" "$preferences" >>"$output" &
     pid=$!
     until grep -q '^loaded ' "$output"; do kill -0 "$pid" && sleep 0.01; done
     others=$(find "$folder/config" -mindepth 1 ! -name preferences.json 2>/dev/null | wc -l)
