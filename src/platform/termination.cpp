@@ -80,9 +80,11 @@ Termination::Termination(std::function<void()> action)
     actionAtEnd() = std::move(action);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, callAction);
     std::atexit(callAction);
-    if (::pipe2(channel.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+    if (::pipe(channel.data()) != 0)
         return;
-    ::fcntl(channel[0], F_SETFL, 0); // only the handler must not block
+    for (const int end : channel)
+        ::fcntl(end, F_SETFD, FD_CLOEXEC);
+    ::fcntl(channel[1], F_SETFL, O_NONBLOCK); // a signal handler must not block
     std::thread(waitForSignals).detach();
     for (const int signal : signals)
         handle(signal);

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/process_tree.h"
 
-#include <QDir>
-#include <QFile>
-#include <QHash>
+#include "platform/running_processes.h"
+
 #include <QThread>
 
 #include <algorithm>
@@ -13,26 +12,6 @@
 namespace tarnwick {
 
 namespace {
-
-using ParentByProcess = QHash<qint64, qint64>;
-
-/// All processes but those that have ended already (/proc/PID/stat, proc(5)).
-ParentByProcess runningProcesses()
-{
-    ParentByProcess parents;
-    for (const QString& name :
-         QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[0-9]*")})) {
-        QFile file(QStringLiteral("/proc/%1/stat").arg(name));
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        const QByteArray line = file.readAll();
-        // The name of the program, which may hold anything, ends at the last parenthesis.
-        const QByteArrayList fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-        if (fields.size() > 1 && fields[0] != "Z" && fields[0] != "X")
-            parents.insert(name.toLongLong(), fields[1].toLongLong());
-    }
-    return parents;
-}
 
 void signalAll(const QList<qint64>& processes, int signal)
 {
