@@ -137,6 +137,8 @@ void MenuInput::pointerMoved(QPoint global)
 
 void MenuInput::hover(StatusMenu& menu, QPoint global)
 {
+    if (m_awaitedMenu != &menu)
+        m_rest.stop(); // the pointer has reached the submenu
     for (StatusMenu* above = menu.parentMenu(); above; above = above->parentMenu()) {
         above->column().stopScrolling();
         above->setActiveRow(above->openSubmenu()->parentRow());
