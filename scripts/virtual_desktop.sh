@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Runs a command in a private desktop with a tray and returns the command's exit status:
+# Runs a command in a private desktop with a tray and returns the command's exit status, or 77 if
+# such a desktop cannot run here:
 #
 #   virtual_desktop.sh [--host NAME] [--size 1280x800] [--dark | --dark-panel] [--scale N]
 #                      [--no-accessibility] -- COMMAND...
@@ -17,7 +18,7 @@ set -euo pipefail
 scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 desktop=$scripts/desktop
 
-usage() { sed -n '5,6s/^# *//p' "${BASH_SOURCE[0]}" >&2; exit 64; }
+usage() { sed -n '6,7s/^# *//p' "${BASH_SOURCE[0]}" >&2; exit 64; }
 
 host=xfce4-panel size=1280x800 theme=light scale=1 accessibility=true
 while (($#)); do
@@ -83,7 +84,10 @@ start_and_read() {
 give_up() {
     echo "virtual_desktop.sh: $1" >&2
     tail -n 20 "$logs"/*.log >&2
-    exit 70
+    local status=0
+    kill -0 "${pids[-1]}" 2>/dev/null || wait "${pids[-1]}" || status=$?
+    ((status == 77)) || status=70
+    exit "$status"
 }
 
 enter_private_environment() {
@@ -124,14 +128,14 @@ start_desktop() {
         >"$logs/accessibility.log" 2>&1 || give_up "the accessibility bus did not start"
     [[ $session == panel ]] || return 0
     start openbox --sm-disable
-    "$desktop/wait_for_desktop.py" window-manager || give_up "openbox did not start"
+    "$desktop/wait_for_desktop.py" window-manager "${pids[-1]}" || give_up "openbox did not start"
 }
 
 enter_private_environment
 start_desktop
 if [[ $host != none ]]; then
     start "$desktop/tray_host.sh" "$host"
-    "$desktop/wait_for_desktop.py" "$ready" || give_up "$host did not come up"
+    "$desktop/wait_for_desktop.py" "$ready" "${pids[-1]}" || give_up "$host did not come up"
 fi
 
 setpriv --pdeathsig TERM -- "$@" <&0 &

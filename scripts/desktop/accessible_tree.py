@@ -4,8 +4,13 @@
 
 Prints one line for each item that is showing: left, top, width, height, role, name and description,
 with tabs between them. What a named control or a row consists of is left out, but for a row's open submenu.
-A "push button", as older accessibility libraries call it, is a "button".
+A "push button", as older accessibility libraries call it, is a "button". Positions are those on the
+display of the virtual desktop, in sway as well.
 """
+import glob
+import json
+import os
+import subprocess
 import sys
 
 import gi
@@ -23,13 +28,29 @@ def role_of(item):
     return "button" if role == "push button" else role
 
 
-def walk(item):
+def windows(node):
+    yield node
+    for child in node["nodes"] + node["floating_nodes"]:
+        yield from windows(child)
+
+
+def menu_origin():
+    """A Wayland client does not learn where its menu is; Qt puts that at 0,0, and all else beside it."""
+    for socket in glob.glob(os.environ["XDG_RUNTIME_DIR"] + "/sway-ipc.*"):
+        tree = subprocess.run(["swaymsg", "-s", socket, "-rt", "get_tree"], capture_output=True, check=True)
+        for window in windows(json.loads(tree.stdout)):
+            if window.get("app_id") == "org.tarnwick.Tarnwick":
+                return window["rect"]["x"], window["rect"]["y"]
+    return 0, 0
+
+
+def walk(item, left, top):
     try:
         name = item.get_name().replace("\n", " ")
         role = role_of(item)
         if item.get_state_set().contains(Atspi.StateType.SHOWING):
             area = item.get_extents(Atspi.CoordType.SCREEN)
-            print(area.x, area.y, area.width, area.height, role, name, item.get_description(), sep="\t")
+            print(left + area.x, top + area.y, area.width, area.height, role, name, item.get_description(), sep="\t")
         if name and role not in HOLDERS and role != "menu item":
             return
         children = [item.get_child_at_index(i) for i in range(item.get_child_count())]
@@ -39,11 +60,11 @@ def walk(item):
         return
     for child in children:
         if child:
-            walk(child)
+            walk(child, left, top)
 
 
 desktop = Atspi.get_desktop(0)
 for index in range(desktop.get_child_count()):
     application = desktop.get_child_at_index(index)
     if application and application.get_name() == sys.argv[1]:
-        walk(application)
+        walk(application, *menu_origin())

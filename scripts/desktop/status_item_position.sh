@@ -34,7 +34,10 @@ has_status_notifier_item() {
         org.kde.StatusNotifierWatcher RegisteredStatusNotifierItems 2>/dev/null) == *"['"* ]]
 }
 
-if icon=$(visible_window_inside 'panel|stalonetray' tarnwick); then
+# sway tells nobody where its bar has what: in the middle of waybar's only item, at its right end.
+if [[ $XDG_CURRENT_DESKTOP == sway ]]; then
+    has_status_notifier_item && xdotool getdisplaygeometry | awk '{ print $1 - 19, 14 }'
+elif icon=$(visible_window_inside 'panel|stalonetray' tarnwick); then
     print_centre "$icon"
 else
     has_status_notifier_item && tray=$(visible_window_inside xfce4-panel wrapper-2.0) &&

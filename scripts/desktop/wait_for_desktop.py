@@ -1,10 +1,11 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""wait_for_desktop.py PART[,PART]: returns once these parts of the desktop are ready.
+"""wait_for_desktop.py PART[,PART] PID: returns once these parts of the desktop are ready.
 
 notifier: a status notifier watcher says that it has a host; tray: the tray selection of the display
 has an owner; window-manager; compositor: the socket of a Wayland compositor is there;
-desktop: GNOME shows it, and not the overview. Fails after a minute.
+desktop: GNOME shows it, and not the overview. Fails after a minute, and when
+the process has ended.
 """
 import os
 import sys
@@ -35,6 +36,11 @@ def has_window_manager(screen):
         screen.intern_atom("_NET_SUPPORTING_WM_CHECK"), X.AnyPropertyType))
 
 
+def is_running(pid):
+    with open(f"/proc/{pid}/stat") as stat:
+        return stat.read().rpartition(")")[2].split()[0] != "Z"
+
+
 def main():
     screen = display.Display()
     runtime = os.environ["XDG_RUNTIME_DIR"]
@@ -47,7 +53,7 @@ def main():
     }
     deadline = time.monotonic() + 60
     while not all(ready[part]() for part in sys.argv[1].split(",")):
-        if time.monotonic() > deadline:
+        if time.monotonic() > deadline or not is_running(sys.argv[2]):
             sys.exit(1)
         time.sleep(0.05)
 

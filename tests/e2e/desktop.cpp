@@ -35,7 +35,7 @@ RunningProgram::RunningProgram(const QJsonObject& preferences,
         environment.insert(name, value);
     m_process.setProcessEnvironment(environment);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_process.start(program, QStringList());
+    m_process.start(QStringLiteral(TARNWICK_SCRIPTS "/in_session.sh"), {program});
     QVERIFY(m_process.waitForStarted());
 }
 

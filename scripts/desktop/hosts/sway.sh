@@ -28,8 +28,13 @@ END
 
 # sway 1.7 refuses to run as root, so root is somebody else to it. The bar is not its child, because
 # the session bus would take that for somebody else, too.
-as_user=()
-((EUID)) || as_user=(unshare --user --map-user=1000 --map-group=1000 --)
+as_user=(unshare --user --map-user=1000 --map-group=1000 --)
+if ((EUID)) || [[ $(sway --version) != *" 1.7"* ]]; then
+    as_user=()
+elif ! "${as_user[@]}" true; then
+    echo "this sway does not run as root, and there is no other user here" >&2
+    exit 77
+fi
 export WLR_BACKENDS=x11 WLR_RENDERER=pixman
 "${as_user[@]}" setpriv --pdeathsig TERM -- sway &
 until ls "$XDG_RUNTIME_DIR"/sway-ipc.*.sock >/dev/null 2>&1; do
