@@ -43,6 +43,16 @@ licensed() {
         xargs -0 grep -L 'SPDX-License-Identifier: MIT' | (! grep .)
 }
 
+# Against a copy, in which each text that is new or has gone would be marked.
+translated() {
+    local folder marked
+    folder=$(mktemp -d) && cp translations/*.ts "$folder" &&
+        PATH=/usr/lib/qt6/bin:$PATH lupdate -silent src -ts "$folder"/*.ts || return
+    marked=$(grep -hE -B 2 'type="(unfinished|vanished|obsolete)"' "$folder"/*.ts)
+    rm -r "$folder"
+    [[ ! $marked ]] || { echo "$marked" && return 1; }
+}
+
 one_version() {
     local version
     version=$(sed -n 's/^project(Tarnwick VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
@@ -61,6 +71,7 @@ check "the desktop entry is valid" desktop-file-validate resources/org.tarnwick.
 check "the AppStream metainfo is valid" \
     appstreamcli validate --pedantic --no-net resources/org.tarnwick.Tarnwick.metainfo.xml
 check "the manual page is valid" valid_manual
+check "every text is translated" translated
 check "one version everywhere" eval '! one_version | grep .'
 echo "$passed passed, $failed failed, $skipped skipped"
 ((failed == 0))

@@ -13,6 +13,7 @@
 #include "platform/tray_host.h"
 #include "shell/app_delegate.h"
 #include "shell/menu/status_menu_accessible.h"
+#include "translations.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -33,6 +34,7 @@ int main(int argc, char* argv[])
 
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tarnwick"));
+    installTranslations();
     const QString identifier = QStringLiteral("org.tarnwick.Tarnwick");
     QApplication::setDesktopFileName(identifier);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/org.tarnwick.Tarnwick.svg")));

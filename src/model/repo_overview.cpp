@@ -58,8 +58,8 @@ QString RepoOverview::text() const
         return tr("no repositories watched");
     const int unclean = countOf(m_models, isUnclean);
     QString text =
-        watched == 1 ? tr("1 repository watched") : tr("%1 repositories watched").arg(watched);
-    text += unclean == 0 ? tr(", all clean") : tr(", %1 not clean").arg(unclean);
+        watched == 1 ? tr("1 repository watched") : tr("%n repositories watched", nullptr, watched);
+    text += unclean == 0 ? tr(", all clean") : tr(", %n not clean", nullptr, unclean);
     const QString progress = progressText();
     return progress.isEmpty() ? text : tr("%1; %2").arg(text, progress);
 }
@@ -68,7 +68,7 @@ QString RepoOverview::progressText() const
 {
     const int awaited =
         countOf(m_models, [](const auto& record) { return record.isRepo() && record.isAwaited(); });
-    return awaited == 0 ? QString() : tr("%1 still being asked").arg(awaited);
+    return awaited == 0 ? QString() : tr("%n still being asked", nullptr, awaited);
 }
 
 QString briefText(const RepoViewModel& record)

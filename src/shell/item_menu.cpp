@@ -34,7 +34,7 @@ void ItemMenu::setRepositories(const QStringList& texts)
 {
     m_texts = texts.first(qMin(texts.size(), maxRepositories));
     if (texts.size() > maxRepositories)
-        m_texts += tr("and %1 more").arg(texts.size() - maxRepositories);
+        m_texts += tr("and %n more", nullptr, static_cast<int>(texts.size() - maxRepositories));
     showTexts(m_texts);
 }
 

@@ -101,9 +101,9 @@ QString RepoStatusView::description() const
     const StatusDetails details = statusDetails(m_vm->gitStatus().value_or(QString()));
     QStringList parts;
     if (details.conflicts > 0)
-        parts += tr("%1 in conflict").arg(details.conflicts);
+        parts += tr("%n in conflict", nullptr, static_cast<int>(details.conflicts));
     if (details.renames > 0)
-        parts += tr("%1 renamed").arg(details.renames);
+        parts += tr("%n renamed", nullptr, static_cast<int>(details.renames));
     if (details.isDetached)
         parts += tr("detached head");
     if (details.lacksUpstream)

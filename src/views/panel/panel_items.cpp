@@ -83,7 +83,8 @@ public:
             m_items.back().button.color = entry.color;
         }
         if (count > maxChangedFiles) {
-            add(Kind::Overflow, {}, tr("... %1 more").arg(count - maxChangedFiles), m_vm.dir());
+            const auto more = static_cast<int>(count - maxChangedFiles);
+            add(Kind::Overflow, {}, tr("... %n more", nullptr, more), m_vm.dir());
             m_items.back().button.color = secondaryLabelColor(m_palette);
         }
     }
