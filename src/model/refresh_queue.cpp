@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "model/refresh_queue.h"
 
+#include <utility>
+
 namespace tarnwick {
 
 void RefreshQueue::add(const RepoViewModels& models)
@@ -9,6 +11,12 @@ void RefreshQueue::add(const RepoViewModels& models)
         record->announceRefresh();
     m_waiting.insert(m_waiting.end(), models.begin(), models.end());
     scheduleNext();
+}
+
+void RefreshQueue::clear()
+{
+    for (const auto& record : std::exchange(m_waiting, {}))
+        record->withdrawAnnouncement();
 }
 
 void RefreshQueue::scheduleNext()

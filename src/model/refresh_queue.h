@@ -21,7 +21,7 @@ class RefreshQueue : public QObject
 public:
     void add(const RepoViewModels& models);
     /// Lets go of the records that have not had their turn.
-    void clear() { m_waiting.clear(); }
+    void clear();
 
 private:
     void scheduleNext();
