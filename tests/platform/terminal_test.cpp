@@ -53,6 +53,7 @@ private Q_SLOTS:
         const QString dir = m_root.filePath(name);
         QVERIFY(QDir().mkpath(dir));
         const QByteArray shell = "[shell in " + dir.toUtf8() + ']';
+        qputenv("SHELL", m_root.filePath(u"shell"_s).toUtf8());
         QCOMPARE(shown(terminalSession(dir, {})), shell);
         // Neither the command's failure nor a Ctrl+C closes the window.
         for (const QString& end : {u"exit 3"_s, u"kill -INT $PPID; kill -INT $$"_s}) {
@@ -73,7 +74,7 @@ private:
         QFile::setPermissions(shell, QFile::ReadOwner | QFile::ExeOwner);
         QProcess window;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"SHELL"_s, shell);
+        environment.insert(u"SHELL"_s, u"/bin/false"_s); // foot overwrites it
         window.setProcessEnvironment(environment);
         window.setWorkingDirectory(m_root.path());
         window.setProcessChannelMode(QProcess::MergedChannels);

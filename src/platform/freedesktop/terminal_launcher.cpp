@@ -22,13 +22,15 @@ QString startFolder(const QString& dir)
 
 QStringList terminalSession(const QString& dir, const QStringList& command)
 {
-    // The traps keep a Ctrl+C that ends the command from ending this shell as well.
+    // The traps keep a Ctrl+C that ends the command from ending this shell as well. The user's
+    // shell is an argument, because some terminals set SHELL to what they run.
     const QString script = QStringLiteral(R"(trap : INT QUIT
-cd -- "$1" && { shift; [ $# -eq 0 ] || "$@"; }
-[ -x "${SHELL-}" ] || SHELL=/bin/sh
+export SHELL="$1"
+[ -x "$SHELL" ] || SHELL=/bin/sh
+cd -- "$2" && { shift 2; [ $# -eq 0 ] || "$@"; }
 exec "$SHELL")");
-    return QStringList{QStringLiteral("/bin/sh"), QStringLiteral("-c"), script,
-                       QStringLiteral("sh"), dir} +
+    return QStringList{QStringLiteral("/bin/sh"), QStringLiteral("-c"),          script,
+                       QStringLiteral("sh"),      qEnvironmentVariable("SHELL"), dir} +
            command;
 }
 
