@@ -11,6 +11,8 @@ namespace tarnwick {
 
 void PictureView::setPicture(const Picture& picture, const QColor& color)
 {
+    if (picture == m_picture && color == m_color)
+        return;
     m_picture = picture;
     m_color = color;
     update();

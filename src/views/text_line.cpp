@@ -63,7 +63,7 @@ void TextLine::setSegments(std::vector<TextSegment> segments)
     m_segments = std::move(segments);
     static const QRegularExpression glyphs(QStringLiteral("\\p{Co}"));
     setAccessibleName(text().remove(glyphs).simplified());
-    updateGeometry();
+    forgetSize();
     update();
 }
 
@@ -78,15 +78,18 @@ QString TextLine::text() const
 void TextLine::setGlyphColumn(int width)
 {
     m_glyphColumn = width;
-    updateGeometry();
+    forgetSize();
     update();
 }
 
 QSize TextLine::sizeHint() const
 {
-    const auto layout = layoutForWidth(QWIDGETSIZE_MAX);
-    return {static_cast<int>(std::ceil(layout->maximumWidth())),
-            static_cast<int>(std::ceil(layout->boundingRect().height()))};
+    if (!m_lineSize.isValid()) {
+        const auto layout = layoutForWidth(QWIDGETSIZE_MAX);
+        m_lineSize = {static_cast<int>(std::ceil(layout->maximumWidth())),
+                      static_cast<int>(std::ceil(layout->boundingRect().height()))};
+    }
+    return m_lineSize;
 }
 
 QSize TextLine::minimumSizeHint() const
@@ -97,14 +100,22 @@ QSize TextLine::minimumSizeHint() const
 
 int TextLine::heightForWidth(int width) const
 {
+    if (width >= sizeHint().width())
+        return sizeHint().height();
     return static_cast<int>(std::ceil(layoutForWidth(width)->boundingRect().height()));
 }
 
 void TextLine::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::FontChange)
-        updateGeometry();
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange)
+        forgetSize();
     QWidget::changeEvent(event);
+}
+
+void TextLine::forgetSize()
+{
+    m_lineSize = {};
+    updateGeometry();
 }
 
 void TextLine::paintEvent(QPaintEvent* /*event*/)

@@ -51,8 +51,13 @@ private:
     [[nodiscard]] QList<QTextLayout::FormatRange> wideningFormats(const QString& text,
                                                                   int start) const;
 
+    void forgetSize();
+
     std::vector<TextSegment> m_segments;
     int m_glyphColumn = 0;
+    /// Of the text in one line, once it has been asked for: shaping a text takes long, and layouts
+    /// ask many times.
+    mutable QSize m_lineSize;
 };
 
 } // namespace tarnwick
