@@ -45,7 +45,9 @@ OutsideWorld::OutsideWorld()
     writeFile(path(u"data/applications/mimeapps.list"_s),
               "[Default Applications]\nx-scheme-handler/http=Browser.desktop\n"
               "x-scheme-handler/https=Browser.desktop\ninode/directory=Recorder.desktop\n"
-              "text/plain=Recorder.desktop\n");
+              // What a test's package is, by its content or by its name.
+              "text/plain=Recorder.desktop\n"
+              "application/vnd.debian.binary-package=Recorder.desktop\n");
     QVERIFY(QDir(m_root.path()).mkpath(u"home"_s));
 
     QVERIFY(m_bus.registerObject(u"/org/freedesktop/FileManager1"_s, this,
