@@ -30,6 +30,7 @@ private Q_SLOTS:
         row("beside, left panel", {2, 400, 24, 24}, bare, menu, {26, 400, 340, 268});
         row("below the pointer", {700, 10, 0, 0}, belowPanel, menu, {688, 26, 340, 268});
         row("entry below the panel", {700, 130, 0, 0}, belowPanel, menu, {688, 26, 340, 268});
+        row("last entry below the panel", {700, 620, 0, 0}, belowPanel, menu, {688, 26, 340, 268});
         row("entry above the panel", {100, 640, 0, 0}, abovePanel, menu, {88, 472, 340, 268});
         row("entry beside the panel", {130, 740, 0, 0}, {40, 0, 1326, 768}, menu,
             {40, 500, 340, 268});

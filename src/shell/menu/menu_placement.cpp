@@ -2,6 +2,7 @@
 #include "shell/menu/menu_placement.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace tarnwick {
 
@@ -9,9 +10,6 @@ namespace {
 
 /// Half the side of a usual status item.
 constexpr int pointerReach = 12;
-
-/// How far an entry of the item's own menu can be from the panel.
-constexpr int entryReach = 160;
 
 /// In a corner of a screen whose panels take no space, an item counts as one of the upper or lower
 /// panel: those are the usual ones.
@@ -31,7 +29,7 @@ QRect itemNear(QPoint pointer, const QRect& screen, const QRect& available)
     const QRect around = QRect(pointer, QSize(1, 1))
                              .adjusted(-pointerReach, -pointerReach, pointerReach, pointerReach);
     QRect item = around;
-    int nearest = entryReach;
+    int nearest = std::numeric_limits<int>::max();
     const auto moveOntoPanel = [&](int thickness, int distance, QPoint direction) {
         if (thickness <= 0 || distance >= nearest)
             return;

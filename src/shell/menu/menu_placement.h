@@ -15,8 +15,9 @@ namespace tarnwick {
 /// the room is.
 ///
 /// An empty anchor is the pointer's position, for panels that keep the item's place to themselves.
-/// The item is then taken to be on the panel nearby, since the pointer may be on an entry of a menu
-/// that the panel shows for it, or to reach a little way around the pointer where there is none.
+/// The item is then taken to be on the nearest panel, since the pointer may be on an entry of a
+/// menu that the panel shows for it, or to reach a little way around the pointer where there is
+/// none.
 [[nodiscard]] QRect placeMenu(const QRect& anchor, const QRect& screen, const QRect& available,
                               QSize wanted);
 
