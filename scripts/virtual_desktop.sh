@@ -110,6 +110,10 @@ enter_private_environment() {
     export TMPDIR=$home/tmp
     mkdir -p "$TMPDIR" "$logs" "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_CACHE_HOME" "$XDG_STATE_HOME"
     mkdir -m 700 "$XDG_RUNTIME_DIR"
+    # Where a panel finds it that draws the item's icon by name.
+    local icons=$XDG_DATA_HOME/icons/hicolor/symbolic/apps
+    mkdir -p "$icons"
+    cp "$scripts"/../resources/icons/*-symbolic.svg "$icons"
 }
 
 start_desktop() {

@@ -56,14 +56,18 @@ public:
     /// known, an empty rectangle at a point on its panel, or a null one.
     [[nodiscard]] virtual std::optional<QColor> panelColor(const QRect& item) const = 0;
 
+    /// The name under which the panel finds the item's icon, to draw it in the colour of its texts;
+    /// empty where it draws the picture that it is given.
+    [[nodiscard]] virtual QString tintedIconName() const { return {}; }
+
 Q_SIGNALS:
     /// A place has come up: the first, or another after the panel started anew. Never emitted from
     /// within the constructor.
     void appeared();
     /// It has been found out that there is no place yet.
     void missed();
-    /// A panel has moved, or shows or hides itself.
-    void panelsMoved();
+    /// A panel has moved, shows or hides itself, or is about to have another colour.
+    void panelsChanged();
 };
 
 } // namespace tarnwick

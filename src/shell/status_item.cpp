@@ -10,8 +10,6 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QEvent>
-#include <QGuiApplication>
-#include <QPalette>
 
 #include <chrono>
 
@@ -20,6 +18,9 @@ namespace tarnwick {
 using namespace std::chrono_literals;
 
 namespace {
+
+/// A contrast of 4 to white and of 5 to black.
+constexpr QRgb onAnyPanel = 0xff808080;
 
 /// Light or dark, whichever stands out more against the panel.
 QColor colorOn(const QColor& panel)
@@ -50,7 +51,10 @@ StatusItem::StatusItem(TrayHost& host, const RepoOverview& overview, QObject* pa
     m_panelTimer.setInterval(500ms);
     connect(&m_panelTimer, &QTimer::timeout, this, &StatusItem::updateColor);
     connect(&m_host, &TrayHost::appeared, this, &StatusItem::showIcon);
-    connect(&m_host, &TrayHost::panelsMoved, &m_panelTimer, qOverload<>(&QTimer::start));
+    connect(&m_host, &TrayHost::panelsChanged, this, [this] {
+        m_color = {}; // Plasma gives an icon another colour only when it is sent again
+        m_panelTimer.start();
+    });
     qApp->installEventFilter(this);
 
     if (m_host.available()) {
@@ -121,11 +125,11 @@ void StatusItem::updateColor()
     if (!panel && m_hasSeenPanel)
         return; // it is hidden
     m_hasSeenPanel = panel.has_value();
-    const QColor color = colorOn(panel.value_or(QGuiApplication::palette().window().color()));
+    const QColor color = panel ? colorOn(*panel) : onAnyPanel;
     if (color == m_color)
         return;
     m_color = color;
-    m_icon->setIcon(symbolIcon(glyphText(glyph::statusItem), color));
+    m_icon->setIcon(symbolIcon(glyphText(glyph::statusItem), color, m_host.tintedIconName()));
 }
 
 QRect StatusItem::anchor() const

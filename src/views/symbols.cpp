@@ -40,10 +40,13 @@ QString loadSymbolFont()
 class SymbolIcon : public QIconEngine
 {
 public:
-    SymbolIcon(QString glyph, const QColor& color)
+    SymbolIcon(QString glyph, const QColor& color, QString name)
         : m_glyph(std::move(glyph))
         , m_color(color)
+        , m_name(std::move(name))
     {}
+
+    QString iconName() override { return m_name; }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
     {
@@ -73,6 +76,7 @@ public:
 private:
     const QString m_glyph;
     const QColor m_color;
+    const QString m_name;
 };
 
 } // namespace
@@ -110,9 +114,9 @@ QString symbolNamed(QStringView name)
     return symbol == namedSymbols.end() ? QString() : glyphText(symbol->codePoint);
 }
 
-QIcon symbolIcon(const QString& glyph, const QColor& color)
+QIcon symbolIcon(const QString& glyph, const QColor& color, const QString& name)
 {
-    return QIcon(new SymbolIcon(glyph, color));
+    return QIcon(new SymbolIcon(glyph, color, name));
 }
 
 void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph)

@@ -29,8 +29,9 @@ namespace tarnwick {
 [[nodiscard]] QString symbolNamed(QStringView name);
 
 /// The symbol as an icon of any size; without a colour in that of labels in the application's
-/// palette at the time of painting.
-[[nodiscard]] QIcon symbolIcon(const QString& glyph, const QColor& color = {});
+/// palette at the time of painting. `name` is the icon's name in icon themes, if it has one.
+[[nodiscard]] QIcon symbolIcon(const QString& glyph, const QColor& color = {},
+                               const QString& name = {});
 
 /// Fills the square with the glyph, in the painter's pen.
 void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph);

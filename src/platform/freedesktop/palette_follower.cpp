@@ -16,6 +16,7 @@ PaletteFollower::PaletteFollower()
     create();
     qApp->installEventFilter(this);
     colorToolTips();
+    connect(&m_kde, &KdeSettings::changed, this, &PaletteFollower::followKde);
 }
 
 bool PaletteFollower::event(QEvent* event)
@@ -24,6 +25,13 @@ bool PaletteFollower::event(QEvent* event)
     if (event->type() == QEvent::ThemeChange)
         QMetaObject::invokeMethod(this, &PaletteFollower::follow, Qt::QueuedConnection);
     return QWindow::event(event);
+}
+
+void PaletteFollower::followKde()
+{
+    const auto palette = KdeSettings::palette();
+    if (palette && *palette != QApplication::palette())
+        QApplication::setPalette(*palette);
 }
 
 void PaletteFollower::follow()

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QPixmap>
 #include <QScreen>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <vector>
@@ -47,9 +48,9 @@ std::optional<QColor> median(const QImage& image)
     return QColor(*middle);
 }
 
-bool isGnome()
+bool isOn(QStringView desktop)
 {
-    return qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(u"GNOME");
+    return qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(desktop);
 }
 
 } // namespace
@@ -58,9 +59,20 @@ std::optional<QColor> panelColor(const QRect& area)
 {
     if (screenCanBeRead() && !area.isEmpty())
         return median(grab(area));
-    if (isGnome())
+    if (isOn(u"GNOME"))
         return Qt::black; // its bar is dark whatever the theme
     return std::nullopt;
+}
+
+QString tintedIconName()
+{
+    const QString name = QStringLiteral("org.tarnwick.Tarnwick-symbolic");
+    if (screenCanBeRead() || !(isOn(u"KDE") || isOn(u"GNOME")) ||
+        QStandardPaths::locate(QStandardPaths::GenericDataLocation,
+                               QStringLiteral("icons/hicolor/symbolic/apps/%1.svg").arg(name))
+            .isEmpty())
+        return {};
+    return name;
 }
 
 } // namespace tarnwick

@@ -26,7 +26,8 @@ FreedesktopTrayHost::FreedesktopTrayHost(QObject* parent)
     });
     connect(&m_notifier, &StatusNotifierWatcher::stateChanged, this,
             &FreedesktopTrayHost::reevaluate);
-    connect(&m_docks, &DockWindows::changed, this, &TrayHost::panelsMoved);
+    connect(&m_docks, &DockWindows::changed, this, &TrayHost::panelsChanged);
+    connect(&m_kde, &KdeSettings::changed, this, &TrayHost::panelsChanged);
     connect(&m_tray, &X11Tray::appeared, this, &FreedesktopTrayHost::reevaluate);
     reevaluate();
 }
@@ -96,6 +97,11 @@ QList<QRect> FreedesktopTrayHost::panelRects() const
 std::optional<QColor> FreedesktopTrayHost::panelColor(const QRect& item) const
 {
     return tarnwick::panelColor(areaBehind(item, panelRects()));
+}
+
+QString FreedesktopTrayHost::tintedIconName() const
+{
+    return tarnwick::tintedIconName();
 }
 
 } // namespace tarnwick

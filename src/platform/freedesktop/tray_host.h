@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/freedesktop/dock_windows.h"
+#include "platform/freedesktop/kde_settings.h"
 #include "platform/freedesktop/status_notifier_watcher.h"
 #include "platform/freedesktop/x11_tray.h"
 #include "platform/tray_host.h"
@@ -29,6 +30,7 @@ public:
     [[nodiscard]] QString literalMenuText(QString text) const override;
     [[nodiscard]] QList<QRect> panelRects() const override;
     [[nodiscard]] std::optional<QColor> panelColor(const QRect& item) const override;
+    [[nodiscard]] QString tintedIconName() const override;
 
 private:
     void reevaluate();
@@ -38,6 +40,7 @@ private:
     StatusNotifierWatcher m_notifier;
     X11Tray m_tray;
     DockWindows m_docks;
+    KdeSettings m_kde;
     QTimer m_trayTimer;
     bool m_available = false;
     /// Whether the item's menu is shown by the panel, told over the session bus, and not by Qt.
