@@ -39,15 +39,15 @@ open_menu() {
 }
 
 on_desktop() {
-    local package=$1 newer=$2 preferences=$XDG_CONFIG_HOME/tarnwick/preferences.json before pid
+    local package=$1 newer=$2 preferences=$XDG_CONFIG_HOME/tarnwick/preferences.json before
     git init -q "$HOME/sample"
     mkdir -p "${preferences%/*}"
     echo "{\"repos\": \"$HOME/sample\", \"launchOnStartup\": true}" >"$preferences"
 
+    trap 'kill "$pid" 2>/dev/null || true' EXIT
     step "Starting it"
     tarnwick >"$HOME/tarnwick.log" 2>&1 &
     pid=$!
-    trap 'kill "$pid" 2>/dev/null || true' EXIT
     open_menu
     wait_for test -e "$XDG_CONFIG_HOME/autostart/org.tarnwick.TarnwickLauncher.desktop"
 
@@ -62,6 +62,7 @@ on_desktop() {
     is_running "$pid" "the removal"
     [[ $(sha256sum "$preferences") == "$before" ]] || fail "the preferences changed"
     kill "$pid"
+    wait "$pid" || true
     [[ $(sha256sum "$preferences") == "$before" ]] || fail "the preferences changed"
 
     step "Installing it again"
@@ -73,6 +74,7 @@ on_desktop() {
 }
 
 if [[ ${1-} == --on-desktop ]]; then
+    pid=
     on_desktop "${@:2}"
     exit
 fi
