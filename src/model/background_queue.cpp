@@ -74,7 +74,7 @@ BackgroundQueue::~BackgroundQueue()
 void BackgroundQueue::post(std::function<void()> job, const void* owner)
 {
     if (owner && m_hanging.contains(owner))
-        m_postponed.insert(owner, std::move(job));
+        m_postponed[owner] = std::move(job);
     else
         start(std::move(job), owner);
 }
