@@ -18,7 +18,7 @@ namespace tarnwick {
 
 namespace {
 
-constexpr qint64 maxFileSize = 16 * 1024 * 1024;
+constexpr qint64 maxFileSize = qint64{16} * 1024 * 1024;
 
 bool isThere(const QString& path)
 {

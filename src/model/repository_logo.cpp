@@ -10,7 +10,7 @@ namespace tarnwick {
 
 namespace {
 
-constexpr qint64 maxFileSize = 16 * 1024 * 1024;
+constexpr qint64 maxFileSize = qint64{16} * 1024 * 1024;
 constexpr QSize maxSize(64, 64);
 constexpr qint64 maxUndividedPixels = 2048 * 2048;
 
