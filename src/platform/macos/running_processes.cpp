@@ -9,7 +9,7 @@ namespace tarnwick {
 
 ParentByProcess runningProcesses()
 {
-    std::array name{CTL_KERN, KERN_PROC, KERN_PROC_ALL};
+    std::array<int, 3> name{CTL_KERN, KERN_PROC, KERN_PROC_ALL};
     std::size_t size = 0;
     if (::sysctl(name.data(), name.size(), nullptr, &size, nullptr, 0) != 0)
         return {};
