@@ -12,7 +12,7 @@ namespace {
 
 constexpr qint64 maxFileSize = qint64{16} * 1024 * 1024;
 constexpr QSize maxSize(64, 64);
-constexpr qint64 maxUndividedPixels = 2048 * 2048;
+constexpr qint64 maxUndividedPixels = qint64{2048} * 2048;
 
 /// Whether Qt reduces the picture row by row while it decodes it.
 bool isReducedByRows(const QByteArray& png, const QImageReader& reader)

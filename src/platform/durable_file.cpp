@@ -104,7 +104,7 @@ std::optional<QString> replaceFileDurably(const QString& path, const QByteArray&
     const QByteArray name = QFile::encodeName(target.absoluteFilePath());
     if (target.exists() && ::access(name.constData(), W_OK) != 0)
         return systemError();
-    if (const auto error = writeAndRename(target, bytes))
+    if (auto error = writeAndRename(target, bytes))
         return error;
     return syncFolder(folder) ? std::nullopt : std::optional(systemError());
 }

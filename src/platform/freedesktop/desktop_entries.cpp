@@ -24,7 +24,7 @@ using PathById = QMap<QString, QString>;
 // can lead to the whole disk, and all is read on the main thread.
 constexpr int maxDepth = 6;
 constexpr int maxFiles = 5000;
-constexpr qint64 maxEntrySize = 256 * 1024;
+constexpr qint64 maxEntrySize = qint64{256} * 1024;
 
 struct Subfolder
 {

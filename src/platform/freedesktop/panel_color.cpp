@@ -66,7 +66,7 @@ std::optional<QColor> panelColor(const QRect& area)
 
 QString tintedIconName()
 {
-    const QString name = QStringLiteral("org.tarnwick.Tarnwick-symbolic");
+    QString name = QStringLiteral("org.tarnwick.Tarnwick-symbolic");
     if (screenCanBeRead() || !(isOn(u"KDE") || isOn(u"GNOME")) ||
         QStandardPaths::locate(QStandardPaths::GenericDataLocation,
                                QStringLiteral("icons/hicolor/symbolic/apps/%1.svg").arg(name))

@@ -83,9 +83,9 @@ bool PathField::eventFilter(QObject* watched, QEvent* event)
 {
     auto* const popup = completer() ? completer()->popup() : nullptr;
     // Where it has none, Wayland makes the popup a window of its own when it is shown again.
-    if (watched == popup && event->type() == QEvent::Show)
+    if (popup && watched == popup && event->type() == QEvent::Show)
         popup->windowHandle()->setTransientParent(window()->windowHandle());
-    if (watched != popup || event->type() != QEvent::MouseButtonPress)
+    if (!popup || watched != popup || event->type() != QEvent::MouseButtonPress)
         return QLineEdit::eventFilter(watched, event);
     const auto& press = static_cast<const QMouseEvent&>(*event);
     if (popup->rect().contains(press.position().toPoint()))
