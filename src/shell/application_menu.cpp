@@ -144,7 +144,9 @@ void ApplicationMenu::addRepositoryItem(const std::shared_ptr<RepoViewModel>& re
             &HostingView::descriptionChanged);
     HostedRow* const hosted = menu.addRow(row);
     hosted->setName(record->name());
-    hosted->setSubmenu(newPanel(record, spokenName, applications, menu));
+    hosted->setSubmenu([this, record, spokenName, applications, &menu] {
+        return newPanel(record, spokenName, applications, menu);
+    });
     menu.addSeparator();
 }
 

@@ -43,7 +43,7 @@ struct Row
         view->setText(u"R&D, main"_s);
         panel->addRow(host({first, last}, 300));
         row = menu.addRow(view);
-        row->setSubmenu(panel);
+        row->setSubmenu([panel = panel] { return panel; });
         menu.addSeparator();
     }
     [[nodiscard]] QPoint blank() const { return row->mapToGlobal(QPoint(3, 3)); }

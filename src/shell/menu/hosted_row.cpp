@@ -37,9 +37,16 @@ HostedRow::HostedRow(HostingView* view, QWidget* parent)
             [announce] { announce(QAccessible::DescriptionChanged); });
 }
 
+StatusMenu& HostedRow::ensureSubmenu()
+{
+    if (!m_submenu)
+        m_submenu = m_makeSubmenu();
+    return *m_submenu;
+}
+
 void HostedRow::setActive(bool active)
 {
-    if (std::exchange(m_isActive, active) != active && m_submenu)
+    if (std::exchange(m_isActive, active) != active && hasSubmenu())
         update();
 }
 
@@ -80,7 +87,7 @@ void HostedRow::mouseReleaseEvent(QMouseEvent* event)
 
 void HostedRow::paintEvent(QPaintEvent* /*event*/)
 {
-    if (!m_isActive || !m_submenu)
+    if (!m_isActive || !hasSubmenu())
         return;
     QColor highlight = palette().color(QPalette::Highlight);
     highlight.setAlphaF(highlightStrength);

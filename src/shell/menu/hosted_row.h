@@ -3,6 +3,9 @@
 
 #include <QWidget>
 
+#include <functional>
+#include <utility>
+
 namespace tarnwick {
 
 class HostingView;
@@ -25,9 +28,13 @@ public:
     [[nodiscard]] const QString& name() const { return m_name; }
     void setName(const QString& name) { m_name = name; }
 
+    [[nodiscard]] bool hasSubmenu() const { return static_cast<bool>(m_makeSubmenu); }
+    /// `make` is called when the submenu is first opened, and returns a child of the row's menu.
+    void setSubmenu(std::function<StatusMenu*()> make) { m_makeSubmenu = std::move(make); }
+    /// Null until it is first opened.
     [[nodiscard]] StatusMenu* submenu() const { return m_submenu; }
-    /// The row's menu is the parent of `submenu` and owns it.
-    void setSubmenu(StatusMenu* submenu) { m_submenu = submenu; }
+    /// The row has one.
+    [[nodiscard]] StatusMenu& ensureSubmenu();
 
     [[nodiscard]] bool isActive() const { return m_isActive; }
     void setActive(bool active);
@@ -49,6 +56,7 @@ protected:
 private:
     HostingView* const m_view;
     QString m_name;
+    std::function<StatusMenu*()> m_makeSubmenu;
     StatusMenu* m_submenu = nullptr;
     bool m_isActive = false;
     bool m_isPressed = false;

@@ -164,7 +164,7 @@ void MenuInput::hover(StatusMenu& menu, QPoint global)
             menu.setFocus(Qt::MouseFocusReason);
         menu.setActiveRow(row);
         const bool isAwaited = m_rest.isActive() && m_awaited == row;
-        if (row->submenu() != submenu && !isAwaited)
+        if ((submenu || row->hasSubmenu()) && !isAwaited)
             openLater(menu, *row, openDelay(menu));
     }
 }

@@ -31,9 +31,9 @@ QList<Stop> stopsOf(const StatusMenu& menu, Through through)
 {
     QList<Stop> stops;
     for (HostedRow* const row : menu.column().rows()) {
-        if (row->submenu())
+        if (row->hasSubmenu())
             stops.append({.row = row});
-        if (row->submenu() && through == Through::Entries)
+        if (row->hasSubmenu() && through == Through::Entries)
             continue;
         for (QWidget* const control : row->focusWidgets())
             stops.append({.row = row, .control = control});
@@ -100,7 +100,7 @@ void moveToEnd(StatusMenu& menu, bool first)
 void openSubmenu(StatusMenu& menu)
 {
     HostedRow* const row = menu.activeRow();
-    if (!row || !row->submenu())
+    if (!row || !row->hasSubmenu())
         return;
     menu.openSubmenuOf(*row);
     moveToEnd(*row->submenu(), true);
@@ -118,11 +118,11 @@ void activate(StatusMenu& menu)
 void moveSideways(StatusMenu& menu, bool forward)
 {
     const HostedRow* const row = menu.activeRow();
-    if (row && row->submenu() && forward)
+    if (row && row->hasSubmenu() && forward)
         openSubmenu(menu);
     else if (menu.parentMenu() && !forward)
         menu.close();
-    else if (row && !row->submenu() && !menu.parentMenu())
+    else if (row && !row->hasSubmenu() && !menu.parentMenu())
         moveBy(menu, forward ? 1 : -1);
 }
 

@@ -80,7 +80,7 @@ HostedRow* StatusMenu::addRow(HostingView* view)
 {
     auto* const row = new HostedRow(view);
     connect(row, &HostedRow::clicked, this, [this, row] {
-        if (row->submenu())
+        if (row->hasSubmenu())
             openSubmenuOf(*row);
     });
     m_column->addRow(row);
@@ -132,7 +132,7 @@ void StatusMenu::setActiveRow(HostedRow* row)
 void StatusMenu::openSubmenuOf(HostedRow& row)
 {
     setActiveRow(&row);
-    StatusMenu* const wanted = row.submenu();
+    StatusMenu* const wanted = row.hasSubmenu() ? &row.ensureSubmenu() : nullptr;
     StatusMenu* const current = openSubmenu();
     if (wanted == current)
         return;
@@ -266,7 +266,8 @@ void StatusMenu::open()
 {
     for (const HostedRow* const row : m_column->rows())
         Q_EMIT row->view().aboutToBeShown();
-    announceSizes(*m_column);
+    if (parentMenu())
+        announceSizes(*m_column); // what was just rendered
     m_column->scrollToTop();
     setFocus(Qt::PopupFocusReason);
     occupy(placement());

@@ -85,17 +85,17 @@ private:
 };
 
 /// A menu item named by the view's text, or a plain group where the row opens nothing; in it the
-/// widgets of the view and the submenu.
+/// widgets of the view and, once it was opened, the submenu.
 class HostedRowAccessible : public QAccessibleWidget
 {
 public:
     explicit HostedRowAccessible(HostedRow* row)
-        : QAccessibleWidget(row, row->submenu() ? QAccessible::MenuItem : QAccessible::Grouping)
+        : QAccessibleWidget(row, row->hasSubmenu() ? QAccessible::MenuItem : QAccessible::Grouping)
     {}
 
     QAccessible::Role role() const override
     {
-        return row()->submenu() ? QAccessible::MenuItem : QAccessible::Grouping;
+        return row()->hasSubmenu() ? QAccessible::MenuItem : QAccessible::Grouping;
     }
 
     QAccessible::State state() const override
@@ -103,7 +103,7 @@ public:
         QAccessible::State state = QAccessibleWidget::state();
         const QRect area = menu()->column().areaOf(*row());
         state.focusable = true;
-        state.hasPopup = row()->submenu() != nullptr;
+        state.hasPopup = row()->hasSubmenu();
         state.focused = menu()->hasFocus() && row()->isActive();
         state.offscreen = !menu()->column().rect().intersects(area);
         return state;
@@ -141,11 +141,11 @@ public:
 
     QStringList actionNames() const override
     {
-        return row()->submenu() ? QStringList(showMenuAction()) : QStringList();
+        return row()->hasSubmenu() ? QStringList(showMenuAction()) : QStringList();
     }
     void doAction(const QString& actionName) override
     {
-        if (actionName == showMenuAction() && row()->submenu())
+        if (actionName == showMenuAction() && row()->hasSubmenu())
             menu()->openSubmenuOf(*row());
     }
 
