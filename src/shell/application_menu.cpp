@@ -157,9 +157,12 @@ StatusMenu* ApplicationMenu::newPanel(const std::shared_ptr<RepoViewModel>& reco
     auto* const actions = new ActionsView(record, applications, m_runner);
     auto* const row = new HostingView(actions);
     row->setText(tr("Actions for %1").arg(spokenName));
-    connect(row, &HostingView::aboutToBeShown, actions, &ActionsView::render);
     auto* const panel = new StatusMenu(&menu);
-    panel->addRow(row);
+    HostedRow* const hosted = panel->addRow(row);
+    connect(row, &HostingView::aboutToBeShown, actions, [actions, hosted] {
+        actions->render();
+        hosted->announceSize();
+    });
     return panel;
 }
 

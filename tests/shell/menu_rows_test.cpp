@@ -148,12 +148,15 @@ private Q_SLOTS:
         turnWheel(5);
         const int before = y(20);
         QVERIFY(y(1) < 0);
+        QVERIFY(!m_rows[90].label->isVisible());
         m_rows[90].label->setText(u"one\ntwo\nthree"_s);
+        m_rows[90].view->setText(u"one two three"_s);
         QTRY_VERIFY(m_rows[90].view->height() > m_rows[20].view->height());
         QCOMPARE(y(20), before);
 
         turnWheel(500);
         QVERIFY(column.rect().contains(column.areaOf(*m_rows[99].row)));
+        QVERIFY(m_rows[99].label->isVisible());
         click(*m_menu, m_rows[99].blank());
         QVERIFY(screen.contains(m_rows[99].panel->geometry()));
         m_rows[99].panel->close();

@@ -24,6 +24,14 @@ public:
 
     [[nodiscard]] HostingView& view() const { return *m_view; }
 
+    /// Keeps the room of a view that cannot be seen anyway. To show and hide the widgets of
+    /// hundreds of rows takes longer than all else that opening a menu does.
+    void setViewShown(bool shown);
+    /// Makes the layouts around each widget heed what has changed in a view that is hidden. Else
+    /// they would hear of it when it is shown, but a Wayland popup is placed for the size that it
+    /// is shown with. Texts of the view do so themselves.
+    void announceSize();
+
     /// What the row is found by when a part of it is typed.
     [[nodiscard]] const QString& name() const { return m_name; }
     void setName(const QString& name) { m_name = name; }

@@ -12,6 +12,7 @@ namespace tarnwick {
 
 HostingView::HostingView(QWidget* rootView, QWidget* parent)
     : QWidget(parent)
+    , m_rootView(rootView)
 {
     setMinimumSize(10, 10);
     auto* const layout = new QVBoxLayout(this);

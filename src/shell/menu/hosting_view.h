@@ -18,6 +18,8 @@ public:
     /// Owns `rootView`.
     explicit HostingView(QWidget* rootView, QWidget* parent = nullptr);
 
+    [[nodiscard]] QWidget& rootView() const { return *m_rootView; }
+
     /// What the content says, for those who do not see it.
     [[nodiscard]] QString text() const { return m_text; }
     void setText(const QString& text);
@@ -39,6 +41,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QWidget* const m_rootView;
     QString m_text;
     std::function<QString()> m_description;
 };

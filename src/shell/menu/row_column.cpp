@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace tarnwick {
 
@@ -117,6 +118,13 @@ void RowColumn::stopScrolling()
     m_timer.stop();
 }
 
+void RowColumn::prepareToShow()
+{
+    widget()->resize(width(), sizeHint().height());
+    m_layout->activate();
+    showRowsInView();
+}
+
 QSize RowColumn::sizeHint() const
 {
     const QSize hint = m_layout->sizeHint();
@@ -129,6 +137,7 @@ bool RowColumn::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
         resizeContent();
+        showRowsInView();
         Q_EMIT sizeHintChanged();
     }
     return QScrollArea::eventFilter(watched, event);
@@ -139,12 +148,14 @@ void RowColumn::resizeEvent(QResizeEvent* event)
     QScrollArea::resizeEvent(event);
     resizeContent();
     placeArrows();
+    showRowsInView();
 }
 
 void RowColumn::scrollContentsBy(int dx, int dy)
 {
     QScrollArea::scrollContentsBy(dx, dy);
     placeArrows();
+    showRowsInView();
     Q_EMIT scrolled();
 }
 
@@ -152,6 +163,14 @@ void RowColumn::resizeContent()
 {
     // A resizable content would be squeezed to its minimum size before it scrolls.
     widget()->resize(viewport()->width(), sizeHint().height());
+}
+
+/// The controls of a row without a submenu are reached by keys wherever the row is.
+void RowColumn::showRowsInView()
+{
+    const QRect seen(-widget()->pos(), size());
+    for (HostedRow* const row : std::as_const(m_rows))
+        row->setViewShown(!row->hasSubmenu() || seen.intersects(row->geometry()));
 }
 
 void RowColumn::placeArrows()

@@ -38,6 +38,9 @@ public:
     bool hoverArrow(QPoint position);
     void stopScrolling();
 
+    /// Lays out what a hidden column shows when it is shown in its present size.
+    void prepareToShow();
+
     /// The size of all rows.
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -54,6 +57,7 @@ protected:
 private:
     void resizeContent();
     void placeArrows();
+    void showRowsInView();
 
     QVBoxLayout* m_layout;
     QList<HostedRow*> m_rows;

@@ -44,15 +44,6 @@ Qt::WindowFlags flagsFor(const StatusMenu* parent)
     return Qt::FramelessWindowHint | (parent ? Qt::ToolTip : Qt::Window);
 }
 
-/// Tells the layouts around each widget in `root` of its size. While a window is hidden, they would
-/// only hear of it later, but a Wayland popup is placed for the size that it is shown with.
-void announceSizes(const QWidget& root)
-{
-    const auto widgets = root.findChildren<QWidget*>(); // outer ones first
-    std::for_each(widgets.rbegin(), widgets.rend(),
-                  [](QWidget* widget) { widget->updateGeometry(); });
-}
-
 } // namespace
 
 StatusMenu::StatusMenu(StatusMenu* parent)
@@ -266,11 +257,11 @@ void StatusMenu::open()
 {
     for (const HostedRow* const row : m_column->rows())
         Q_EMIT row->view().aboutToBeShown();
-    if (parentMenu())
-        announceSizes(*m_column); // what was just rendered
     m_column->scrollToTop();
     setFocus(Qt::PopupFocusReason);
     occupy(placement());
+    layout()->activate();
+    m_column->prepareToShow();
     if (m_input)
         m_input->start();
     show();
