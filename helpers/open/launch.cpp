@@ -17,7 +17,7 @@ std::optional<DesktopEntry> findEntry(const QString& name)
 {
     for (const auto place : {DesktopEntryPlace::User, DesktopEntryPlace::System}) {
         for (const DesktopEntry& entry :
-             shownDesktopEntries(place).value_or(QList<DesktopEntry>())) {
+             DesktopEntryReader(place).shownEntries().value_or(QList<DesktopEntry>())) {
             if (entry.name == name || entry.name + QStringLiteral(".app") == name)
                 return entry;
         }

@@ -75,6 +75,8 @@ private Q_SLOTS:
         QVERIFY(QFile::resize(path(u"b/applications/big.desktop"_s), 1 << 30));
         QTRY_VERIFY(system.contains(u"X.app"_s));
         QVERIFY(!system.contains(u"Big.app"_s));
+        install(u"b/applications/x.desktop"_s, "Name=Y");
+        QTRY_VERIFY(system.contains(u"Y.app"_s));
         QCOMPARE(system.path(), path(u"b/applications/"_s));
     }
 

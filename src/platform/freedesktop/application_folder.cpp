@@ -78,7 +78,7 @@ const FreedesktopApplicationFolder::Listing& FreedesktopApplicationFolder::listi
 {
     if (m_listing)
         return *m_listing;
-    const auto entries = shownDesktopEntries(m_place);
+    const auto entries = m_reader.shownEntries();
     m_listing = Listing{entries.has_value(), {}};
     for (const DesktopEntry& entry : entries.value_or(QList<DesktopEntry>()))
         m_listing->iconByName.insert(entry.name + QStringLiteral(".app"), entry.icon);

@@ -9,13 +9,14 @@
 
 namespace tarnwick {
 
-/// The desktop entries of a place as if they were files of one folder. They are read once in a turn
-/// of the event loop: a menu asks for hundreds of names at a time.
+/// The desktop entries of a place as if they were files of one folder. They are looked at once in a
+/// turn of the event loop: a menu asks for hundreds of names at a time.
 class FreedesktopApplicationFolder : public ApplicationFolder
 {
 public:
     explicit FreedesktopApplicationFolder(DesktopEntryPlace place)
         : m_place(place)
+        , m_reader(place)
     {}
 
     [[nodiscard]] QString path() const override;
@@ -33,6 +34,7 @@ private:
     [[nodiscard]] const Listing& listing() const;
 
     DesktopEntryPlace m_place;
+    mutable DesktopEntryReader m_reader;
     mutable std::optional<Listing> m_listing;
     mutable QObject m_resetContext;
 };

@@ -7,18 +7,21 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QMap>
 #include <QSet>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <glib.h>
 #include <memory>
+#include <utility>
 
 namespace tarnwick {
 
 namespace {
 
-using PathById = QMap<QString, QString>;
+using FileById = QMap<QString, QFileInfo>;
 
 // Far more than anybody has installed. What goes beyond is passed over: a link among the entries
 // can lead to the whole disk, and all is read on the main thread.
@@ -34,12 +37,12 @@ struct Subfolder
 
 /// Whatever goes by the name of a desktop entry: a link to nowhere hides an entry, too. The higher
 /// folders come first.
-std::optional<PathById> entryFiles(const QString& folder)
+std::optional<FileById> entryFiles(const QString& folder)
 {
     const QDir root(folder);
     if (!root.isReadable())
         return {};
-    PathById files;
+    FileById files;
     QList<Subfolder> folders{{folder, 1}};
     int seen = 0;
     for (qsizetype index = 0; index < folders.size(); ++index) {
@@ -54,7 +57,7 @@ std::optional<PathById> entryFiles(const QString& folder)
                 if (current.depth < maxDepth)
                     folders += {path, current.depth + 1};
             } else if (path.endsWith(u".desktop")) {
-                files.insert(root.relativeFilePath(path).replace(u'/', u'-'), path);
+                files.insert(root.relativeFilePath(path).replace(u'/', u'-'), file.fileInfo());
             }
         }
     }
@@ -100,19 +103,38 @@ bool isProgram(const QString& name)
     return found;
 }
 
-/// Whether the programs that the entry speaks of are there; one that it does not name is.
-bool hasPrograms(const EntryKeys& keys)
+/// The programs that the entry speaks of. Nothing if its command is none.
+std::optional<QStringList> programsOf(const EntryKeys& keys)
 {
-    const QString attempted = keys.text(G_KEY_FILE_DESKTOP_KEY_TRY_EXEC);
+    QStringList programs{keys.text(G_KEY_FILE_DESKTOP_KEY_TRY_EXEC)};
     const QString command = keys.text(G_KEY_FILE_DESKTOP_KEY_EXEC);
-    if (!attempted.isEmpty() && !isProgram(attempted))
-        return false;
-    if (command.isEmpty())
-        return true;
     g_auto(GStrv) arguments = nullptr;
-    return g_shell_parse_argv(command.toUtf8().constData(), nullptr, &arguments, nullptr) &&
-           isProgram(QString::fromUtf8(arguments[0]));
+    if (!command.isEmpty()) {
+        if (!g_shell_parse_argv(command.toUtf8().constData(), nullptr, &arguments, nullptr))
+            return {};
+        programs += QString::fromUtf8(arguments[0]);
+    }
+    programs.removeAll(QString());
+    return programs;
 }
+
+/// Looks each program up once: many entries start the same one.
+class ProgramSearch
+{
+public:
+    [[nodiscard]] bool findsAll(const QStringList& programs)
+    {
+        return std::ranges::all_of(programs, [this](const QString& program) {
+            auto known = m_found.constFind(program);
+            if (known == m_found.cend())
+                known = m_found.insert(program, isProgram(program));
+            return *known;
+        });
+    }
+
+private:
+    QHash<QString, bool> m_found;
+};
 
 /// The first name of this desktop that the entry mentions decides.
 bool isForThisDesktop(const EntryKeys& keys)
@@ -128,25 +150,11 @@ bool isForThisDesktop(const EntryKeys& keys)
     return only.isEmpty();
 }
 
-std::optional<DesktopEntry> shownEntry(const QString& path)
-{
-    const EntryKeys keys(readRegularFile(path, maxEntrySize).bytes.value_or(QByteArray()));
-    if (!keys.isLoaded() ||
-        keys.text(G_KEY_FILE_DESKTOP_KEY_TYPE) !=
-            QStringLiteral(G_KEY_FILE_DESKTOP_TYPE_APPLICATION) ||
-        keys.flag(G_KEY_FILE_DESKTOP_KEY_HIDDEN) || keys.flag(G_KEY_FILE_DESKTOP_KEY_NO_DISPLAY) ||
-        !isForThisDesktop(keys) || !hasPrograms(keys))
-        return {};
-    DesktopEntry entry{path, keys.text(G_KEY_FILE_DESKTOP_KEY_NAME),
-                       keys.text(G_KEY_FILE_DESKTOP_KEY_ICON)};
-    return entry.name.isEmpty() ? std::nullopt : std::optional(std::move(entry));
-}
-
 QSet<QString> idsOfUser()
 {
     QSet<QString> ids;
     for (const QString& folder : desktopEntryFolders(DesktopEntryPlace::User)) {
-        const PathById files = entryFiles(folder).value_or(PathById());
+        const FileById files = entryFiles(folder).value_or(FileById());
         ids.unite({files.keyBegin(), files.keyEnd()});
     }
     return ids;
@@ -164,30 +172,57 @@ QStringList desktopEntryFolders(DesktopEntryPlace place)
     return folders;
 }
 
-std::optional<QList<DesktopEntry>> shownDesktopEntries(DesktopEntryPlace place)
+std::optional<QList<DesktopEntry>> DesktopEntryReader::shownEntries()
 {
-    QSet<QString> ids = place == DesktopEntryPlace::System ? idsOfUser() : QSet<QString>();
+    QSet<QString> ids = m_place == DesktopEntryPlace::System ? idsOfUser() : QSet<QString>();
     QSet<QString> names;
     QList<DesktopEntry> entries;
+    ProgramSearch programs;
+    const QHash<QString, ReadFile> known = std::exchange(m_files, {});
     bool readable = false;
-    for (const QString& folder : desktopEntryFolders(place)) {
+    for (const QString& folder : desktopEntryFolders(m_place)) {
         const auto files = entryFiles(folder);
         if (!files)
             continue;
         readable = true;
-        for (const auto& [id, path] : files->asKeyValueRange()) {
-            const auto known = ids.size();
+        for (const auto& [id, file] : files->asKeyValueRange()) {
+            const auto idCount = ids.size();
             ids.insert(id);
-            if (ids.size() == known)
+            if (ids.size() == idCount)
                 continue;
-            auto entry = shownEntry(path);
-            if (!entry || names.contains(entry->name))
+            const QString path = file.filePath();
+            const QDateTime changed = file.metadataChangeTime();
+            const auto before = known.constFind(path);
+            const bool isSame =
+                before != known.cend() && before->changed == changed && before->size == file.size();
+            const auto& application =
+                m_files.insert(path, isSame ? *before : ReadFile{changed, file.size(), read(path)})
+                    ->application;
+            if (!application || names.contains(application->entry.name) ||
+                !programs.findsAll(application->programs))
                 continue;
-            names.insert(entry->name);
-            entries += std::move(*entry);
+            names.insert(application->entry.name);
+            entries += application->entry;
         }
     }
     return readable ? std::optional(std::move(entries)) : std::nullopt;
+}
+
+std::optional<DesktopEntryReader::Application> DesktopEntryReader::read(const QString& path)
+{
+    const EntryKeys keys(readRegularFile(path, maxEntrySize).bytes.value_or(QByteArray()));
+    if (!keys.isLoaded() ||
+        keys.text(G_KEY_FILE_DESKTOP_KEY_TYPE) !=
+            QStringLiteral(G_KEY_FILE_DESKTOP_TYPE_APPLICATION) ||
+        keys.flag(G_KEY_FILE_DESKTOP_KEY_HIDDEN) || keys.flag(G_KEY_FILE_DESKTOP_KEY_NO_DISPLAY) ||
+        !isForThisDesktop(keys))
+        return {};
+    auto programs = programsOf(keys);
+    DesktopEntry entry{path, keys.text(G_KEY_FILE_DESKTOP_KEY_NAME),
+                       keys.text(G_KEY_FILE_DESKTOP_KEY_ICON)};
+    if (!programs || entry.name.isEmpty())
+        return {};
+    return Application{std::move(entry), std::move(*programs)};
 }
 
 } // namespace tarnwick

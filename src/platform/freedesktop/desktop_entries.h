@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDateTime>
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -26,12 +28,41 @@ struct DesktopEntry
 /// The folders of the place, those that take precedence first. They need not exist.
 [[nodiscard]] QStringList desktopEntryFolders(DesktopEntryPlace place);
 
-/// The applications of the place that this desktop is to show, each name once: of two entries of
-/// one name counts the one that takes precedence. An entry of the user's own, even a hidden one,
-/// replaces the system's of the same id. Nothing if no folder of the place can be read.
-///
-/// Reads every file at each call: milliseconds where hundreds are installed. Of each folder it
-/// looks at the first 5000 files on six levels, and not into those of more than 256 KiB.
-[[nodiscard]] std::optional<QList<DesktopEntry>> shownDesktopEntries(DesktopEntryPlace place);
+/// Reads the desktop entries of a place. Main thread only.
+class DesktopEntryReader
+{
+public:
+    explicit DesktopEntryReader(DesktopEntryPlace place)
+        : m_place(place)
+    {}
+
+    /// The applications that this desktop is to show, each name once: of two entries of one name
+    /// counts the one that takes precedence. An entry of the user's own, even a hidden one,
+    /// replaces the system's of the same id. Nothing if no folder of the place can be read.
+    ///
+    /// Looks at every file, and reads those that are new or have changed since the last call: some
+    /// ten milliseconds at first where hundreds are installed. Of each folder it looks at the first
+    /// 5000 files on six levels, and not into those of more than 256 KiB.
+    [[nodiscard]] std::optional<QList<DesktopEntry>> shownEntries();
+
+private:
+    struct Application
+    {
+        DesktopEntry entry;
+        QStringList programs;
+    };
+    struct ReadFile
+    {
+        QDateTime changed;
+        qint64 size;
+        /// None if this desktop never shows it.
+        std::optional<Application> application;
+    };
+
+    [[nodiscard]] static std::optional<Application> read(const QString& path);
+
+    DesktopEntryPlace m_place;
+    QHash<QString, ReadFile> m_files;
+};
 
 } // namespace tarnwick
