@@ -5,12 +5,19 @@
 
 namespace tarnwick {
 
+RefreshQueue::RefreshQueue()
+{
+    // A timer lets input go first that came in the meantime; a posted event would come before it.
+    m_next.setSingleShot(true);
+    connect(&m_next, &QTimer::timeout, this, &RefreshQueue::refreshNext);
+}
+
 void RefreshQueue::add(const RepoViewModels& models)
 {
     for (const auto& record : models)
         record->announceRefresh();
     m_waiting.insert(m_waiting.end(), models.begin(), models.end());
-    scheduleNext();
+    m_next.start();
 }
 
 void RefreshQueue::clear()
@@ -19,18 +26,8 @@ void RefreshQueue::clear()
         record->withdrawAnnouncement();
 }
 
-void RefreshQueue::scheduleNext()
-{
-    if (m_waiting.empty() || m_isScheduled)
-        return;
-    m_isScheduled = true;
-    // Events that are posted while others are delivered wait for the next turn of the event loop.
-    QMetaObject::invokeMethod(this, &RefreshQueue::refreshNext, Qt::QueuedConnection);
-}
-
 void RefreshQueue::refreshNext()
 {
-    m_isScheduled = false;
     if (m_waiting.empty())
         return;
     const auto record = std::move(m_waiting.front());
@@ -38,7 +35,8 @@ void RefreshQueue::refreshNext()
     record->refreshStatusInBackground();
     record->withdrawAnnouncement();
     record->refreshBranch();
-    scheduleNext();
+    if (!m_waiting.empty())
+        m_next.start();
 }
 
 } // namespace tarnwick

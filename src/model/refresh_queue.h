@@ -4,6 +4,7 @@
 #include "model/repo_view_model.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <deque>
 #include <memory>
@@ -19,16 +20,17 @@ class RefreshQueue : public QObject
     Q_OBJECT
 
 public:
+    RefreshQueue();
+
     void add(const RepoViewModels& models);
     /// Lets go of the records that have not had their turn.
     void clear();
 
 private:
-    void scheduleNext();
     void refreshNext();
 
     std::deque<std::shared_ptr<RepoViewModel>> m_waiting;
-    bool m_isScheduled = false;
+    QTimer m_next;
 };
 
 } // namespace tarnwick
