@@ -12,10 +12,10 @@ namespace tarnwick::bench {
 namespace {
 
 constexpr std::size_t minRounds = 9;
-constexpr std::size_t maxRounds = 25;
 /// A narrower interval is settled, on whichever side of it the target lies.
 constexpr double settledWidth = 0.03;
 
+std::size_t maxRounds = minRounds;
 std::FILE* output = nullptr;
 bool hasMissedOne = false;
 
@@ -100,8 +100,9 @@ QString Figure::text(double value) const
     return QString::number(value, 'f', m_unit == Unit::ratio ? 2 : 0);
 }
 
-void openReport()
+void openReport(std::size_t rounds)
 {
+    maxRounds = std::max(minRounds, rounds);
     output = fdopen(dup(STDOUT_FILENO), "w");
     if (!output || !std::freopen("/dev/null", "w", stdout))
         std::abort();

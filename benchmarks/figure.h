@@ -26,7 +26,7 @@ public:
     void add(double sample) { m_samples.push_back(sample); }
     void addRatio(double ours, double theirs) { add(ours / theirs); }
 
-    /// After nine rounds where the verdict is clear, else after more; never after more than 25.
+    /// After nine rounds where the verdict is clear, else after as many as `openReport()` allows.
     [[nodiscard]] bool hasEnough() const;
     [[nodiscard]] std::size_t rounds() const { return m_samples.size(); }
     [[nodiscard]] double median() const;
@@ -49,8 +49,8 @@ private:
 };
 
 /// Takes standard output for the report and writes the head of its table; what the program itself
-/// prints from then on is dropped.
-void openReport();
+/// prints from then on is dropped. No figure gets more than `maxRounds` rounds.
+void openReport(std::size_t maxRounds);
 /// Writes a line for a figure that is not measured.
 void reportSkipped(const QString& name, const QString& reason);
 /// Of all figures reported: 0, or 1 if a target is missed.

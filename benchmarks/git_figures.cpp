@@ -13,17 +13,15 @@ namespace tarnwick::bench {
 
 namespace {
 
-constexpr qsizetype listSize = 100;
-constexpr qsizetype longListSize = 500;
-
-void measureRefresh(Bench& bench)
+void measureRefresh(Bench& bench, qsizetype listSize)
 {
     const QStringList dirs = bench.dirs(listSize);
     const BareGit bare(dirs);
     const auto list = bench.loaded(dirs);
     const auto menu = bench.menu().buildMenu(*list); // its rows follow the records
-    Figure figure(QStringLiteral("refresh"),
-                  QStringLiteral("refresh of 100 repositories : bare posix_spawn loop"), 1.05);
+    Figure figure(
+        QStringLiteral("refresh"),
+        QStringLiteral("refresh of %1 repositories : bare posix_spawn loop").arg(listSize), 1.05);
     while (!figure.hasEnough()) {
         const bool isFirst = figure.rounds() % 2 == 0;
         const double before = isFirst ? refreshTime(list->models()) : 0;
@@ -33,13 +31,14 @@ void measureRefresh(Bench& bench)
     figure.report();
 }
 
-void measureLoad(Bench& bench)
+void measureLoad(Bench& bench, qsizetype listSize)
 {
     const QStringList dirs = bench.dirs(listSize);
     const BareGit bare(dirs);
     const auto load = [&] { return duration([&] { static_cast<void>(bench.loaded(dirs)); }); };
     Figure figure(QStringLiteral("load"),
-                  QStringLiteral("loading 100 repositories : bare posix_spawn loop"), 1.05);
+                  QStringLiteral("loading %1 repositories : bare posix_spawn loop").arg(listSize),
+                  1.05);
     while (!figure.hasEnough()) {
         const bool isFirst = figure.rounds() % 2 == 0;
         const double before = isFirst ? load() : 0;
@@ -50,15 +49,16 @@ void measureLoad(Bench& bench)
 }
 
 /// Both maxima grow with whatever else the machine does, so they are taken from the same round.
-void measureFreeze(Bench& bench)
+void measureFreeze(Bench& bench, qsizetype listSize)
 {
     const QStringList dirs = bench.dirs(listSize);
     const BareGit bare(dirs);
     const auto list = bench.loaded(dirs);
     const auto menu = bench.menu().buildMenu(*list);
-    Figure queries(
-        QStringLiteral("freeze"),
-        QStringLiteral("longest wait of input in a refresh of 100 : longest branch query"), 1.5);
+    Figure queries(QStringLiteral("freeze"),
+                   QStringLiteral("longest wait of input in a refresh of %1 : longest branch query")
+                       .arg(listSize),
+                   1.5);
     Figure wait(QStringLiteral("freeze"), QStringLiteral("the same in milliseconds"), {},
                 Figure::Unit::milliseconds);
     while (!queries.hasEnough()) {
@@ -76,8 +76,8 @@ void measureFreeze(Bench& bench)
 
 void measureGrowth(Bench& bench)
 {
-    const auto few = bench.loaded(bench.dirs(listSize));
-    const auto many = bench.loaded(bench.dirs(longListSize));
+    const auto few = bench.loaded(bench.dirs(100));
+    const auto many = bench.loaded(bench.dirs(500));
     Figure figure(QStringLiteral("growth"),
                   QStringLiteral("refresh of 500 repositories : refresh of 100"), 5.1);
     while (!figure.hasEnough())
@@ -117,9 +117,10 @@ void measureHuge(Bench& bench)
 
 void measureGit(Bench& bench, bool quick)
 {
-    measureRefresh(bench);
-    measureLoad(bench);
-    measureFreeze(bench);
+    const qsizetype listSize = quick ? 20 : 100;
+    measureRefresh(bench, listSize);
+    measureLoad(bench, listSize);
+    measureFreeze(bench, listSize);
     if (!quick)
         measureGrowth(bench);
     measureHuge(bench);

@@ -43,8 +43,9 @@ TrayProgram bare(StatusNotifierHost& host, const QStringList& dirs)
 void measureStart(StatusNotifierHost& host, const QStringList& dirs)
 {
     Figure figure(QStringLiteral("start"),
-                  QStringLiteral("start until the item is shown, 100 repositories : bare Qt "
-                                 "program with the bare loop"),
+                  QStringLiteral("start until the item is shown, %1 repositories : bare Qt "
+                                 "program with the bare loop")
+                      .arg(dirs.size()),
                   1.15);
     while (!figure.hasEnough()) {
         const double oursTime = ours(host).startTime();
