@@ -2,6 +2,7 @@
 #include "shell/menu/status_menu.h"
 
 #include "platform/input_grab.h"
+#include "platform/menu_backdrop.h"
 #include "platform/window_activation.h"
 #include "shell/menu/hosted_row.h"
 #include "shell/menu/hosting_view.h"
@@ -18,6 +19,7 @@
 #include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <algorithm>
 #include <chrono>
@@ -56,8 +58,10 @@ StatusMenu::StatusMenu(StatusMenu* parent)
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->addWidget(m_column);
     m_clock.start();
-    if (!parent)
+    if (!parent) {
         m_input = std::make_unique<MenuInput>(*this);
+        useBackdrop();
+    }
 
     connect(m_column, &RowColumn::sizeHintChanged, this, [this] {
         if (isVisible())
@@ -157,7 +161,10 @@ void StatusMenu::popUpBeside(const QRect& anchor, const QList<QRect>& panels)
     m_clicks.opened(pointer, now);
     m_anchor = anchor.isEmpty() ? QRect(pointer, QSize()) : anchor;
     m_panels = panels;
-    openWhenInputIsFree(grabAttempts);
+    if (m_backdrop)
+        m_backdrop->show();
+    else
+        openWhenInputIsFree(grabAttempts);
 }
 
 void StatusMenu::openFreeStanding(std::optional<QPoint> position)
@@ -214,6 +221,8 @@ void StatusMenu::hideEvent(QHideEvent* event)
     m_column->stopScrolling();
     if (m_input)
         m_input->stop();
+    if (m_backdrop)
+        m_backdrop->hide();
     QWidget::hideEvent(event);
 }
 
@@ -235,6 +244,24 @@ void StatusMenu::openRequestedSubmenu()
         return;
     m_column->reveal(*row);
     openSubmenuOf(*row);
+}
+
+void StatusMenu::useBackdrop()
+{
+    m_backdrop = makeMenuBackdrop();
+    if (!m_backdrop)
+        return;
+    setWindowFlags(Qt::ToolTip | Qt::FramelessWindowHint);
+    connect(m_backdrop.get(), &MenuBackdrop::left, this, &StatusMenu::dismiss);
+    connect(m_backdrop.get(), &MenuBackdrop::ready, this,
+            [this](QWindow& window, QPoint pointer, const QRect& available) {
+                m_anchor = QRect(pointer, QSize());
+                m_available = available;
+                m_clicks.opened(pointer, ClickGuard::Time(m_clock.elapsed()));
+                create();
+                windowHandle()->setTransientParent(&window);
+                openWhenInputIsFree(grabAttempts);
+            });
 }
 
 void StatusMenu::openWhenInputIsFree(int attempts)
@@ -285,6 +312,11 @@ void StatusMenu::fitToRows()
         submenu->fitToRows();
 }
 
+bool StatusMenu::canBePlaced() const
+{
+    return windowsCanBePlaced() || (m_backdrop && !m_isFreeStanding);
+}
+
 QRect StatusMenu::placement() const
 {
     const QMargins margins = layout()->contentsMargins();
@@ -293,7 +325,7 @@ QRect StatusMenu::placement() const
         const int top = row->mapToGlobal(QPoint()).y() - margins.top();
         return placeSubmenu(parentMenu()->area(), top, availableArea(), wanted, layoutDirection());
     }
-    if (!windowsCanBePlaced())
+    if (!canBePlaced())
         return QStyle::alignedRect(layoutDirection(), Qt::AlignCenter,
                                    wanted.boundedTo(availableArea().size()), availableArea());
     return placeMenu(m_anchor, shownScreen().geometry(), availableArea(), wanted);
@@ -309,13 +341,15 @@ QRect StatusMenu::availableArea() const
 {
     if (const StatusMenu* const parent = parentMenu())
         return parent->availableArea();
-    if (!windowsCanBePlaced()) {
+    if (!canBePlaced()) {
         QRect available = screen()->availableGeometry();
         // On Wayland every window counts as in the upper left corner of the first screen.
         if (isVisible() && !available.intersects(area()))
             available.moveTopLeft(area().topLeft());
         return available;
     }
+    if (m_backdrop)
+        return m_available;
     const QScreen& shown = shownScreen();
     // Qt 6.11 does not scale the position of the available geometry.
     return m_panels.isEmpty() ? shown.availableGeometry()

@@ -14,6 +14,7 @@ namespace tarnwick {
 
 class HostedRow;
 class HostingView;
+class MenuBackdrop;
 class MenuInput;
 class RowColumn;
 
@@ -85,11 +86,13 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void useBackdrop();
     void openWhenInputIsFree(int attempts);
     void open();
     void occupy(const QRect& place);
     void openRequestedSubmenu();
     void fitToRows();
+    [[nodiscard]] bool canBePlaced() const;
     [[nodiscard]] QRect placement() const;
     [[nodiscard]] const QScreen& shownScreen() const;
     [[nodiscard]] QRect availableArea() const;
@@ -98,10 +101,12 @@ private:
     HostedRow* m_activeRow = nullptr;
     HostedRow* m_requestedRow = nullptr;
     std::unique_ptr<MenuInput> m_input;
+    std::unique_ptr<MenuBackdrop> m_backdrop; ///< where the desktop needs one
 
     bool m_isFreeStanding = false;
     QRect m_anchor;
     QList<QRect> m_panels;
+    QRect m_available; ///< told by the backdrop
     ClickGuard m_clicks;
     QElapsedTimer m_clock;
 };
