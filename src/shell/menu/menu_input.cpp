@@ -204,6 +204,8 @@ void MenuInput::press(QKeyEvent& event)
     StatusMenu& menu = innermostMenu();
     if (!m_typeAhead.press(menu, event))
         pressKey(menu, event);
+    if (m_menu.isVisible())
+        innermostMenu().showFocus();
     event.accept();
 }
 

@@ -207,6 +207,17 @@ void StatusMenu::becomeKeyWindow()
     setFocus(Qt::PopupFocusReason);
 }
 
+void StatusMenu::showFocus()
+{
+    // Keys come by way of the backdrop. Qt's newer call asks the desktop, which has nothing to
+    // give.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    if (isOnBackdrop())
+        QApplication::setActiveWindow(this);
+    QT_WARNING_POP
+}
+
 bool StatusMenu::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowDeactivate && windowType() == Qt::Window)
@@ -312,9 +323,11 @@ void StatusMenu::fitToRows()
         submenu->fitToRows();
 }
 
-bool StatusMenu::canBePlaced() const
+bool StatusMenu::isOnBackdrop() const
 {
-    return windowsCanBePlaced() || (m_backdrop && !m_isFreeStanding);
+    if (const StatusMenu* const parent = parentMenu())
+        return parent->isOnBackdrop();
+    return m_backdrop && !m_isFreeStanding;
 }
 
 QRect StatusMenu::placement() const
@@ -325,7 +338,7 @@ QRect StatusMenu::placement() const
         const int top = row->mapToGlobal(QPoint()).y() - margins.top();
         return placeSubmenu(parentMenu()->area(), top, availableArea(), wanted, layoutDirection());
     }
-    if (!canBePlaced())
+    if (!windowsCanBePlaced() && !isOnBackdrop())
         return QStyle::alignedRect(layoutDirection(), Qt::AlignCenter,
                                    wanted.boundedTo(availableArea().size()), availableArea());
     return placeMenu(m_anchor, shownScreen().geometry(), availableArea(), wanted);
@@ -341,14 +354,14 @@ QRect StatusMenu::availableArea() const
 {
     if (const StatusMenu* const parent = parentMenu())
         return parent->availableArea();
-    if (!canBePlaced()) {
+    if (!windowsCanBePlaced() && !isOnBackdrop()) {
         QRect available = screen()->availableGeometry();
         // On Wayland every window counts as in the upper left corner of the first screen.
         if (isVisible() && !available.intersects(area()))
             available.moveTopLeft(area().topLeft());
         return available;
     }
-    if (m_backdrop)
+    if (isOnBackdrop())
         return m_available;
     const QScreen& shown = shownScreen();
     // Qt 6.11 does not scale the position of the available geometry.

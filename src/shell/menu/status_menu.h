@@ -76,6 +76,8 @@ public:
     void dismiss();
 
     void becomeKeyWindow() override;
+    /// Draws the control that keys have led to as the one that has the keyboard.
+    void showFocus();
 
 Q_SIGNALS:
     void aboutToShow();
@@ -92,7 +94,7 @@ private:
     void occupy(const QRect& place);
     void openRequestedSubmenu();
     void fitToRows();
-    [[nodiscard]] bool canBePlaced() const;
+    [[nodiscard]] bool isOnBackdrop() const;
     [[nodiscard]] QRect placement() const;
     [[nodiscard]] const QScreen& shownScreen() const;
     [[nodiscard]] QRect availableArea() const;
