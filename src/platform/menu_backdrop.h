@@ -26,7 +26,7 @@ Q_SIGNALS:
     /// The window that the pointer is over, to be the menu's transient parent; where the pointer
     /// is, and what the panels leave of that screen, both in coordinates of all screens.
     void ready(QWindow& window, QPoint pointer, const QRect& available);
-    /// Another program got the keyboard.
+    /// A window other than these got the keyboard.
     void left();
 };
 

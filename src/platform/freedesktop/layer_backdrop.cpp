@@ -45,7 +45,8 @@ public:
         surface->setAnchors(
             {Window::AnchorTop, Window::AnchorBottom, Window::AnchorLeft, Window::AnchorRight});
         surface->setExclusiveZone(coversPanels ? -1 : 0);
-        surface->setKeyboardInteractivity(coversPanels ? Window::KeyboardInteractivityExclusive
+        // An exclusive one would keep the keyboard from a terminal that comes up.
+        surface->setKeyboardInteractivity(coversPanels ? Window::KeyboardInteractivityOnDemand
                                                        : Window::KeyboardInteractivityNone);
     }
 
@@ -107,8 +108,11 @@ public:
             const Sheet& first = m_sheets.front();
             finish(first, QRect(QPoint(), first.cover->size()).center());
         });
-        connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](auto state) {
-            if (state == Qt::ApplicationInactive && !m_sheets.empty() && !m_wait.isActive())
+        connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
+            const auto isFocused = [focused](const Sheet& sheet) {
+                return sheet.cover.get() == focused;
+            };
+            if (isShown() && std::ranges::none_of(m_sheets, isFocused))
                 Q_EMIT left();
         });
     }
@@ -141,6 +145,8 @@ private:
         LayerPointer cover;
         LayerPointer room;
     };
+
+    [[nodiscard]] bool isShown() const { return !m_sheets.empty() && !m_wait.isActive(); }
 
     void look()
     {
