@@ -43,6 +43,16 @@ private Q_SLOTS:
         QCOMPARE(program.printedCount(u"nmot repo"_s), 2);
     }
 
+    void opensBesideTheItem()
+    {
+        const RunningProgram program;
+        QVERIFY(openMenu());
+        const QPoint item = statusItemPosition();
+        const QRect button = appeared(u"Refresh all"_s).area;
+        QVERIFY(button.top() > item.y() && button.top() < item.y() + 50);
+        QVERIFY(button.right() > item.x() - 150);
+    }
+
     void refreshesWhenOpenedIfWanted_data()
     {
         const auto row = table<QJsonValue, QString>("refreshOnMenuOpen", "expected");
