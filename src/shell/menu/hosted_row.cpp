@@ -4,6 +4,7 @@
 #include "shell/menu/hosting_view.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -81,6 +82,13 @@ QWidgetList HostedRow::focusWidgets() const
             widgets.append(w);
     }
     return widgets;
+}
+
+void HostedRow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        announceSize();
 }
 
 void HostedRow::hideEvent(QHideEvent* event)

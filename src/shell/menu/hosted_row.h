@@ -29,7 +29,7 @@ public:
     void setViewShown(bool shown);
     /// Makes the layouts around each widget heed what has changed in a view that is hidden. Else
     /// they would hear of it when it is shown, but a Wayland popup is placed for the size that it
-    /// is shown with. Texts of the view do so themselves.
+    /// is shown with. The texts of the view and its font cause it themselves.
     void announceSize();
 
     /// What the row is found by when a part of it is typed.
@@ -55,6 +55,7 @@ Q_SIGNALS:
     void clicked();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
