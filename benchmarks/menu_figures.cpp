@@ -41,14 +41,13 @@ struct Openings
     double later;
 };
 
-/// Opens, closes and opens again.
-Openings openTwice(QWidget& menu, const std::function<void()>& show)
+Openings openTwice(const std::function<void()>& show, const std::function<void()>& close)
 {
     const double first = timeUntilPainted(show);
-    menu.close();
+    close();
     QApplication::processEvents();
     const double later = timeUntilPainted(show);
-    menu.close();
+    close();
     QApplication::processEvents();
     return {first, later};
 }
@@ -62,9 +61,9 @@ void measureOpening(Bench& bench, const RepoManager& list)
     while (!open.hasEnough() || !reopen.hasEnough()) {
         const auto menu = bench.menu().buildMenu(list);
         const Openings ours =
-            openTwice(*menu, [&] { menu->popUpBeside(QRect(600, 0, 24, 24), {}); });
+            openTwice([&] { menu->popUpBeside(QRect(600, 0, 24, 24), {}); }, [&] { menu->dismiss(); });
         const auto plain = plainMenu();
-        const Openings theirs = openTwice(*plain, [&] { plain->popup(QPoint(600, 24)); });
+        const Openings theirs = openTwice([&] { plain->popup(QPoint(600, 24)); }, [&] { plain->close(); });
         open.addRatio(ours.first, theirs.first);
         reopen.addRatio(ours.later, theirs.later);
     }

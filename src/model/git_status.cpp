@@ -10,7 +10,7 @@ namespace tarnwick {
 namespace {
 
 constexpr QChar noBreakSpace(u'\u00A0');
-const QString bothCode = QStringLiteral("MM ");
+constexpr QLatin1String bothCode("MM ");
 
 QString trimBlanks(const QString& piece)
 {
@@ -191,8 +191,8 @@ QStringList changedFiles(const QString& gitStatus, qsizetype limit)
         if (!line.startsWith(bothCode)) {
             otherLines += line.toString();
         } else if (splitLines.size() < limit) {
-            splitLines += line.toString().replace(bothCode, QStringLiteral("M  "));
-            splitLines += line.toString().replace(bothCode, QStringLiteral(" M "));
+            splitLines += line.toString().replace(bothCode, QLatin1String("M  "));
+            splitLines += line.toString().replace(bothCode, QLatin1String(" M "));
         }
         return otherLines.size() < limit;
     });

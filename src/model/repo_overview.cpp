@@ -43,10 +43,10 @@ void RepoOverview::setModels(RepoViewModels models)
             m_announcement.start();
     };
     for (const auto& record : m_models) {
-        for (const auto signal :
-             {&RepoViewModel::isRepoChanged, &RepoViewModel::branchStringChanged,
-              &RepoViewModel::statusStringChanged, &RepoViewModel::isAwaitedChanged})
-            connect(record.get(), signal, this, announce);
+        connect(record.get(), &RepoViewModel::isRepoChanged, this, announce);
+        connect(record.get(), &RepoViewModel::branchStringChanged, this, announce);
+        connect(record.get(), &RepoViewModel::statusStringChanged, this, announce);
+        connect(record.get(), &RepoViewModel::isAwaitedChanged, this, announce);
     }
     Q_EMIT changed();
 }

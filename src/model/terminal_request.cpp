@@ -9,7 +9,7 @@ namespace {
 
 /// Its arguments are the directories. A Ctrl+C ends the fetch that runs and those to come. In one
 /// line, as it may be typed into a window.
-const QString fetchAllScript = QStringLiteral(
+constexpr QLatin1String fetchAllScript(
     "failed=; found=; stopped=; trap stopped=1 INT; "
     "for dir do "
     R"(if remotes=$(git -C "$dir" remote 2>/dev/null) && [ -z "$remotes" ]; then continue; fi; )"

@@ -6,6 +6,7 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QGuiApplication>
+#include <QHash>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
@@ -35,6 +36,18 @@ QString loadSymbolFont()
 {
     const int font = QFontDatabase::addApplicationFontFromData(symbolFontBytes());
     return QFontDatabase::applicationFontFamilies(font).value(0);
+}
+
+/// An outline is sharp at any size and lies exactly where it is drawn; a letter does not.
+const QPainterPath& outlineOf(const QString& glyph)
+{
+    static const QRawFont font(symbolFontBytes(), grid, QFont::PreferNoHinting);
+    static QHash<QString, QPainterPath> outlines;
+    const auto known = outlines.constFind(glyph);
+    if (known != outlines.cend())
+        return *known;
+    return *outlines.insert(glyph,
+                            font.pathForGlyph(font.glyphIndexesForString(glyph).value(0)));
 }
 
 class SymbolIcon : public QIconEngine
@@ -121,15 +134,12 @@ QIcon symbolIcon(const QString& glyph, const QColor& color, const QString& name)
 
 void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph)
 {
-    // An outline is sharp at any size and lies exactly where the square is; a letter does not.
-    static const QRawFont font(symbolFontBytes(), grid, QFont::PreferNoHinting);
-    const QPainterPath outline = font.pathForGlyph(font.glyphIndexesForString(glyph).value(0));
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(square.topLeft());
     painter.scale(square.width() / grid, square.height() / grid);
     painter.translate(0, (0.5 + middle) * grid);
-    painter.fillPath(outline, painter.pen().color());
+    painter.fillPath(outlineOf(glyph), painter.pen().color());
     painter.restore();
 }
 

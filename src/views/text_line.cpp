@@ -63,7 +63,7 @@ void TextLine::setSegments(std::vector<TextSegment> segments)
     m_segments = std::move(segments);
     static const QRegularExpression glyphs(QStringLiteral("\\p{Co}"));
     setAccessibleName(text().remove(glyphs).simplified());
-    forgetSize();
+    forgetLayout();
     update();
 }
 
@@ -78,7 +78,7 @@ QString TextLine::text() const
 void TextLine::setGlyphColumn(int width)
 {
     m_glyphColumn = width;
-    forgetSize();
+    forgetLayout();
     update();
 }
 
@@ -108,20 +108,25 @@ int TextLine::heightForWidth(int width) const
 void TextLine::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange)
-        forgetSize();
+        forgetLayout();
     QWidget::changeEvent(event);
 }
 
-void TextLine::forgetSize()
+void TextLine::forgetLayout()
 {
     m_lineSize = {};
+    m_painted.reset();
     updateGeometry();
 }
 
 void TextLine::paintEvent(QPaintEvent* /*event*/)
 {
+    if (!m_painted || m_paintedWidth != width()) {
+        m_painted = layoutForWidth(width());
+        m_paintedWidth = width();
+    }
     QPainter painter(this);
-    layoutForWidth(width())->draw(&painter, {0, 0});
+    m_painted->draw(&painter, {0, 0});
 }
 
 std::unique_ptr<QTextLayout> TextLine::layoutForWidth(int width) const
@@ -141,6 +146,7 @@ std::unique_ptr<QTextLayout> TextLine::layoutForWidth(int width) const
     }
 
     auto layout = std::make_unique<QTextLayout>(text, font());
+    layout->setCacheEnabled(true); // else the text is shaped once more when it is drawn
     QTextOption option; // the constructor that takes an alignment sets a direction as well
     option.setAlignment(isMirrored ? Qt::AlignRight : Qt::AlignLeft);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

@@ -51,13 +51,16 @@ private:
     [[nodiscard]] QList<QTextLayout::FormatRange> wideningFormats(const QString& text,
                                                                   int start) const;
 
-    void forgetSize();
+    void forgetLayout();
 
     std::vector<TextSegment> m_segments;
     int m_glyphColumn = 0;
     /// Of the text in one line, once it has been asked for: shaping a text takes long, and layouts
     /// ask many times.
     mutable QSize m_lineSize;
+    /// Once it has been painted.
+    std::unique_ptr<QTextLayout> m_painted;
+    int m_paintedWidth = 0;
 };
 
 } // namespace tarnwick

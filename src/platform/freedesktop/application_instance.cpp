@@ -14,7 +14,7 @@ namespace tarnwick {
 namespace {
 
 constexpr const char* tokenVariable = "XDG_ACTIVATION_TOKEN";
-const QString tokenKey = QStringLiteral("activation-token");
+constexpr QLatin1String tokenKey("activation-token");
 
 /// The next window to open takes the token from the environment, and so comes to the front.
 void useActivationToken(const QVariantMap& platformData)

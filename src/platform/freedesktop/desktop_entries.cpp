@@ -125,8 +125,8 @@ public:
     [[nodiscard]] bool findsAll(const QStringList& programs)
     {
         return std::ranges::all_of(programs, [this](const QString& program) {
-            auto known = m_found.constFind(program);
-            if (known == m_found.cend())
+            auto known = m_found.find(program);
+            if (known == m_found.end())
                 known = m_found.insert(program, isProgram(program));
             return *known;
         });

@@ -29,27 +29,17 @@ HostedRow::HostedRow(HostingView* view, QWidget* parent)
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(view);
-    QSizePolicy policy = view->rootView().sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    view->rootView().setSizePolicy(policy);
     const auto announce = [this](QAccessible::Event change) {
         QAccessibleEvent event(this, change);
         QAccessible::updateAccessibility(&event);
     };
     connect(view, &HostingView::textChanged, this, [this, announce] {
-        if (!m_view->rootView().isVisible())
+        if (!isVisible())
             announceSize();
         announce(QAccessible::NameChanged);
     });
     connect(view, &HostingView::descriptionChanged, this,
             [announce] { announce(QAccessible::DescriptionChanged); });
-}
-
-void HostedRow::setViewShown(bool shown)
-{
-    QWidget& root = m_view->rootView();
-    if (root.isHidden() == shown)
-        root.setVisible(shown);
 }
 
 void HostedRow::announceSize()

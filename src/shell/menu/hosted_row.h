@@ -24,10 +24,7 @@ public:
 
     [[nodiscard]] HostingView& view() const { return *m_view; }
 
-    /// Keeps the room of a view that cannot be seen anyway. To show and hide the widgets of
-    /// hundreds of rows takes longer than all else that opening a menu does.
-    void setViewShown(bool shown);
-    /// Makes the layouts around each widget heed what has changed in a view that is hidden. Else
+    /// Makes the layouts around each widget heed what has changed while the row is hidden. Else
     /// they would hear of it when it is shown, but a Wayland popup is placed for the size that it
     /// is shown with. The texts of the view and its font cause it themselves.
     void announceSize();

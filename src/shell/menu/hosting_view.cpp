@@ -3,7 +3,6 @@
 
 #include "shell/menu/key_window.h"
 
-#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -12,7 +11,6 @@ namespace tarnwick {
 
 HostingView::HostingView(QWidget* rootView, QWidget* parent)
     : QWidget(parent)
-    , m_rootView(rootView)
 {
     setMinimumSize(10, 10);
     auto* const layout = new QVBoxLayout(this);
@@ -33,12 +31,8 @@ void HostingView::setDescription(std::function<QString()> description)
     m_description = std::move(description);
 }
 
-void HostingView::showEvent(QShowEvent* event)
+void HostingView::viewDidMoveToWindow() const
 {
-    QWidget::showEvent(event);
-    // A spontaneous event only uncovers the window; the view was in it all along.
-    if (event->spontaneous())
-        return;
     if (auto* const keyWindow = dynamic_cast<KeyWindow*>(window()))
         keyWindow->becomeKeyWindow();
 }

@@ -8,8 +8,7 @@
 
 namespace tarnwick {
 
-/// Holds one piece of content, edge to edge, for a menu to show. Each time the window around it is
-/// shown, a `KeyWindow` is asked once to take the keyboard: an opened menu answers to keys at once.
+/// Holds one piece of content, edge to edge, for a menu to show.
 class HostingView : public QWidget
 {
     Q_OBJECT
@@ -17,8 +16,6 @@ class HostingView : public QWidget
 public:
     /// Owns `rootView`.
     explicit HostingView(QWidget* rootView, QWidget* parent = nullptr);
-
-    [[nodiscard]] QWidget& rootView() const { return *m_rootView; }
 
     /// What the content says, for those who do not see it.
     [[nodiscard]] QString text() const { return m_text; }
@@ -31,17 +28,17 @@ public:
     }
     void setDescription(std::function<QString()> description);
 
+    /// Called each time the window around it is shown, whether the view is within its area or not:
+    /// asks a `KeyWindow` to take the keyboard, so that an opened menu answers to keys at once.
+    void viewDidMoveToWindow() const;
+
 Q_SIGNALS:
     /// The menu is about to open; what the content changes now is in place when it does.
     void aboutToBeShown();
     void textChanged();
     void descriptionChanged();
 
-protected:
-    void showEvent(QShowEvent* event) override;
-
 private:
-    QWidget* const m_rootView;
     QString m_text;
     std::function<QString()> m_description;
 };

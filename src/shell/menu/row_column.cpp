@@ -67,12 +67,12 @@ RowColumn::RowColumn(QWidget* parent)
 void RowColumn::addRow(HostedRow* row)
 {
     m_rows.append(row);
-    m_layout->addWidget(row);
+    append(row);
 }
 
 void RowColumn::addSeparator()
 {
-    m_layout->addWidget(new Separator);
+    append(new Separator);
 }
 
 HostedRow* RowColumn::rowAt(QPoint position) const
@@ -122,7 +122,7 @@ void RowColumn::prepareToShow()
 {
     widget()->resize(width(), sizeHint().height());
     m_layout->activate();
-    showRowsInView();
+    showItemsInView();
 }
 
 QSize RowColumn::sizeHint() const
@@ -137,7 +137,7 @@ bool RowColumn::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
         resizeContent();
-        showRowsInView();
+        showItemsInView();
         Q_EMIT sizeHintChanged();
     }
     return QScrollArea::eventFilter(watched, event);
@@ -148,14 +148,14 @@ void RowColumn::resizeEvent(QResizeEvent* event)
     QScrollArea::resizeEvent(event);
     resizeContent();
     placeArrows();
-    showRowsInView();
+    showItemsInView();
 }
 
 void RowColumn::scrollContentsBy(int dx, int dy)
 {
     QScrollArea::scrollContentsBy(dx, dy);
     placeArrows();
-    showRowsInView();
+    showItemsInView();
     Q_EMIT scrolled();
 }
 
@@ -165,12 +165,28 @@ void RowColumn::resizeContent()
     widget()->resize(viewport()->width(), sizeHint().height());
 }
 
-/// The controls of a row without a submenu are reached by keys wherever the row is.
-void RowColumn::showRowsInView()
+void RowColumn::append(QWidget* item)
+{
+    QSizePolicy policy = item->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    item->setSizePolicy(policy);
+    m_layout->addWidget(item);
+}
+
+/// To show and hide the widgets of hundreds of rows takes longer than all else that opening a menu
+/// does.
+void RowColumn::showItemsInView()
 {
     const QRect seen(-widget()->pos(), size());
-    for (HostedRow* const row : std::as_const(m_rows))
-        row->setViewShown(!row->hasSubmenu() || seen.intersects(row->geometry()));
+    for (int i = 0; i < m_layout->count(); ++i) {
+        QWidget& item = *m_layout->itemAt(i)->widget();
+        const auto* const row = qobject_cast<const HostedRow*>(&item);
+        // The controls of a row without a submenu are reached by keys wherever the row is.
+        const bool hasControls = row && !row->hasSubmenu();
+        const bool isShown = hasControls || seen.intersects(item.geometry());
+        if (item.isHidden() == isShown)
+            item.setVisible(isShown);
+    }
 }
 
 void RowColumn::placeArrows()

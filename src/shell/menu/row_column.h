@@ -55,9 +55,10 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
+    void append(QWidget* item);
     void resizeContent();
     void placeArrows();
-    void showRowsInView();
+    void showItemsInView();
 
     QVBoxLayout* m_layout;
     QList<HostedRow*> m_rows;

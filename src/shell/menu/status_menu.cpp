@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QScreen>
+#include <QShowEvent>
 #include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -53,6 +54,7 @@ StatusMenu::StatusMenu(StatusMenu* parent)
     , m_column(new RowColumn(this))
 {
     setAttribute(Qt::WA_X11NetWmWindowTypePopupMenu);
+    setAttribute(Qt::WA_OpaquePaintEvent);
     constexpr int margin = frameWidth + innerMargin;
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
@@ -132,7 +134,7 @@ void StatusMenu::openSubmenuOf(HostedRow& row)
     if (wanted == current)
         return;
     if (current)
-        current->close();
+        current->hide();
     if (wanted)
         wanted->open();
 }
@@ -146,7 +148,7 @@ void StatusMenu::showSubmenuOf(HostedRow& row)
 void StatusMenu::closeSubmenu()
 {
     if (StatusMenu* const submenu = openSubmenu())
-        submenu->close();
+        submenu->hide();
 }
 
 void StatusMenu::popUpBeside(const QRect& anchor, const QList<QRect>& panels)
@@ -197,7 +199,7 @@ void StatusMenu::pressedOutside(QPoint global)
 void StatusMenu::dismiss()
 {
     closeSubmenu();
-    close();
+    hide(); // unlike close(), keeps the native window for the next opening
 }
 
 void StatusMenu::becomeKeyWindow()
@@ -223,6 +225,16 @@ bool StatusMenu::event(QEvent* event)
     if (event->type() == QEvent::WindowDeactivate && windowType() == Qt::Window)
         pressedOutside(QCursor::pos());
     return QWidget::event(event);
+}
+
+void StatusMenu::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    // A spontaneous event only uncovers the window.
+    if (event->spontaneous())
+        return;
+    for (const HostedRow* const row : m_column->rows())
+        row->view().viewDidMoveToWindow();
 }
 
 void StatusMenu::hideEvent(QHideEvent* event)

@@ -105,6 +105,7 @@ public:
         state.focusable = true;
         state.hasPopup = row()->hasSubmenu();
         state.focused = menu()->hasFocus() && row()->isActive();
+        state.invisible = !menu()->isVisible(); // a row out of view is hidden
         state.offscreen = !menu()->column().rect().intersects(area);
         return state;
     }

@@ -89,11 +89,12 @@ void ActionsView::changeEvent(QEvent* event)
 
 void ActionsView::observe()
 {
-    for (const auto change :
-         {&RepoViewModel::isRepoChanged, &RepoViewModel::isLoadingChanged,
-          &RepoViewModel::statusStringChanged, &RepoViewModel::branchStringChanged,
-          &RepoViewModel::remoteUrlChanged})
-        connect(m_vm.get(), change, this, &ActionsView::scheduleRender);
+    const RepoViewModel* const vm = m_vm.get();
+    connect(vm, &RepoViewModel::isRepoChanged, this, &ActionsView::scheduleRender);
+    connect(vm, &RepoViewModel::isLoadingChanged, this, &ActionsView::scheduleRender);
+    connect(vm, &RepoViewModel::statusStringChanged, this, &ActionsView::scheduleRender);
+    connect(vm, &RepoViewModel::branchStringChanged, this, &ActionsView::scheduleRender);
+    connect(vm, &RepoViewModel::remoteUrlChanged, this, &ActionsView::scheduleRender);
 }
 
 void ActionsView::scheduleRender()
