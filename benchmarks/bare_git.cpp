@@ -3,6 +3,7 @@
 
 #include "model/git_environment.h"
 #include "platform/background_priority.h"
+#include "platform/c_strings.h"
 
 #include <QElapsedTimer>
 #include <QThread>
@@ -21,25 +22,6 @@ namespace tarnwick::bench {
 
 namespace {
 
-/// Texts as the null-terminated list of C strings that a new program gets.
-class CStrings
-{
-public:
-    explicit CStrings(const QStringList& texts)
-    {
-        for (const QString& text : texts)
-            m_bytes.push_back(text.toUtf8());
-        for (QByteArray& bytes : m_bytes)
-            m_pointers.push_back(bytes.data());
-        m_pointers.push_back(nullptr);
-    }
-    [[nodiscard]] char* const* data() const { return m_pointers.data(); }
-
-private:
-    std::vector<QByteArray> m_bytes;
-    std::vector<char*> m_pointers;
-};
-
 void drain(int descriptor)
 {
     std::array<char, 65536> buffer;
@@ -50,10 +32,11 @@ void drain(int descriptor)
 
 void runGit(const QString& dir, const QStringList& arguments)
 {
-    static const CStrings environment(
-        gitEnvironment(QProcessEnvironment::systemEnvironment()).toStringList());
-    const CStrings command(QStringList{QStringLiteral("git"), QStringLiteral("-C"), dir} +
-                           arguments);
+    static const CStrings environment(entriesOf(gitEnvironment(inheritedEnvironment())));
+    QList<QByteArray> words{"git", "-C", dir.toUtf8()};
+    for (const QString& argument : arguments)
+        words += argument.toUtf8();
+    const CStrings command(words);
     std::array<int, 2> out{};
     std::array<int, 2> error{};
     if (::pipe2(out.data(), O_CLOEXEC) != 0 || ::pipe2(error.data(), O_CLOEXEC) != 0)

@@ -60,10 +60,11 @@ void measureOpening(Bench& bench, const RepoManager& list)
     Figure reopen(QStringLiteral("reopen"), QStringLiteral("the same, later openings"), 0.9);
     while (!open.hasEnough() || !reopen.hasEnough()) {
         const auto menu = bench.menu().buildMenu(list);
-        const Openings ours =
-            openTwice([&] { menu->popUpBeside(QRect(600, 0, 24, 24), {}); }, [&] { menu->dismiss(); });
+        const Openings ours = openTwice([&] { menu->popUpBeside(QRect(600, 0, 24, 24), {}); },
+                                        [&] { menu->dismiss(); });
         const auto plain = plainMenu();
-        const Openings theirs = openTwice([&] { plain->popup(QPoint(600, 24)); }, [&] { plain->close(); });
+        const Openings theirs =
+            openTwice([&] { plain->popup(QPoint(600, 24)); }, [&] { plain->close(); });
         open.addRatio(ours.first, theirs.first);
         reopen.addRatio(ours.later, theirs.later);
     }

@@ -8,6 +8,7 @@
 #include <atomic>
 #include <chrono>
 #include <utility>
+#include <vector>
 
 namespace tarnwick {
 
@@ -46,8 +47,21 @@ struct BackgroundQueue::Shared
             QMetaObject::invokeMethod(queue, std::move(function), Qt::QueuedConnection);
     }
 
+    void add(const std::shared_ptr<Run>& run)
+    {
+        const QMutexLocker lock(&mutex);
+        runs.push_back(run);
+    }
+    void remove(const std::shared_ptr<Run>& run)
+    {
+        const QMutexLocker lock(&mutex);
+        std::erase(runs, run);
+    }
+
     QMutex mutex;
     BackgroundQueue* queue;
+    /// Those that have not hung so far.
+    std::vector<std::shared_ptr<Run>> runs;
     std::atomic_int waitingCount = 0;
 };
 
@@ -82,13 +96,16 @@ void BackgroundQueue::post(std::function<void()> job, const void* owner)
 void BackgroundQueue::start(std::function<void()> job, const void* owner)
 {
     ++m_shared->waitingCount;
+    if (!m_timer.isActive())
+        m_timer.start();
     m_pool->start([shared = m_shared, pool = m_pool.get(), owner, job = std::move(job)] {
         enterBackgroundPriority();
-        --shared->waitingCount;
         const auto run = std::make_shared<Run>();
         run->owner = owner;
-        shared->callOnQueue([shared, run] { shared->queue->watch(run); });
+        shared->add(run);
+        --shared->waitingCount;
         job();
+        shared->remove(run);
         if (run->state.exchange(RunState::Finished) == RunState::Hanging) {
             pool->reserveThread();
             shared->callOnQueue([shared, owner] { shared->queue->endHanging(owner); });
@@ -96,24 +113,16 @@ void BackgroundQueue::start(std::function<void()> job, const void* owner)
     });
 }
 
-void BackgroundQueue::watch(const std::shared_ptr<Run>& run)
-{
-    if (run->state == RunState::Finished)
-        return;
-    m_runs.push_back(run);
-    if (!m_timer.isActive())
-        m_timer.start();
-}
-
 void BackgroundQueue::releaseThreadsOfHangingJobs()
 {
     const auto age =
         m_shared->waitingCount > 0 ? Clock::duration(timeoutIfAwaited) : Clock::duration(timeout);
     const auto now = Clock::now();
-    std::erase_if(m_runs, [this, age, now](const std::shared_ptr<Run>& run) {
+    const QMutexLocker lock(&m_shared->mutex);
+    std::erase_if(m_shared->runs, [this, age, now](const std::shared_ptr<Run>& run) {
         auto running = RunState::Running;
         if (now - run->start < age || m_hangingCount >= maxHanging)
-            return run->state == RunState::Finished;
+            return false;
         if (run->state.compare_exchange_strong(running, RunState::Hanging)) {
             ++m_hanging[run->owner];
             ++m_hangingCount;
@@ -121,7 +130,7 @@ void BackgroundQueue::releaseThreadsOfHangingJobs()
         }
         return true;
     });
-    if (m_runs.empty())
+    if (m_shared->runs.empty() && m_shared->waitingCount == 0)
         m_timer.stop();
 }
 

@@ -8,7 +8,6 @@
 
 #include <functional>
 #include <memory>
-#include <vector>
 
 namespace tarnwick {
 
@@ -37,14 +36,11 @@ private:
     struct Shared;
 
     void start(std::function<void()> job, const void* owner);
-    void watch(const std::shared_ptr<Run>& run);
     void releaseThreadsOfHangingJobs();
     void endHanging(const void* owner);
 
     std::unique_ptr<QThreadPool> m_pool;
     const std::shared_ptr<Shared> m_shared;
-    /// Those that have not hung so far.
-    std::vector<std::shared_ptr<Run>> m_runs;
     QTimer m_timer;
     /// How many jobs of an owner hang, and of all owners.
     QHash<const void*, int> m_hanging;

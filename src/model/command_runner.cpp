@@ -5,13 +5,16 @@
 #include "model/git_environment.h"
 #include "platform/process_tree.h"
 #include "platform/program_environment.h"
+#include "platform/program_output.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
 #include <QStringDecoder>
 
+#include <csignal>
 #include <optional>
+#include <utility>
 
 namespace tarnwick {
 
@@ -35,20 +38,21 @@ void writeCommandLine(const QString& program, const QStringList& arguments)
 
 } // namespace
 
+CommandRunner::CommandRunner(Programs programs)
+    : m_programs(std::move(programs))
+    , m_gitEnvironment(entriesOf(gitEnvironment(inheritedEnvironment())))
+{}
+
 void CommandRunner::runGit(const QStringList& arguments, std::shared_ptr<RepoViewModel> record,
                            Completion completion) const
 {
     writeCommandLine(QStringLiteral("/usr/bin/git"), arguments);
 
-    QProcess git;
-    git.setProgram(m_programs.git);
-    git.setArguments(arguments);
-    git.setInputChannelMode(QProcess::ForwardedInputChannel);
-    git.setProcessEnvironment(gitEnvironment(programEnvironment()));
-    if (!runToEnd(git))
+    const auto printed = runToEnd(arguments);
+    if (!printed)
         return;
 
-    if (auto output = decodeUtf8(git.readAllStandardOutput())) {
+    if (auto output = decodeUtf8(printed->standardOutput)) {
         // Null for a git that hung until after the application object was destroyed.
         if (auto* const application = QCoreApplication::instance()) {
             QMetaObject::invokeMethod(
@@ -59,31 +63,31 @@ void CommandRunner::runGit(const QStringList& arguments, std::shared_ptr<RepoVie
         }
         return;
     }
-    if (const auto error = decodeUtf8(git.readAllStandardError())) {
+    if (const auto error = decodeUtf8(printed->standardError)) {
         writeDiagnosticLine(*error);
         completion(QStringLiteral("1?"), *record);
     }
 }
 
-bool CommandRunner::runToEnd(QProcess& git) const
+std::optional<ProgramOutput> CommandRunner::runToEnd(const QStringList& arguments) const
 {
     QMutexLocker lock(&m_mutex);
     if (m_hasEnded)
-        return false;
+        return std::nullopt;
     lock.unlock();
-    git.start();
-    if (!git.waitForStarted(noTimeout))
+    qint64 process = 0;
+    auto output = runProgram(m_programs.git, arguments, m_gitEnvironment, [&](qint64 started) {
+        process = started;
+        const QMutexLocker running(&m_mutex);
+        m_running.insert(process);
+        if (m_hasEnded)
+            ::kill(static_cast<pid_t>(process), SIGKILL);
+    });
+    if (!output)
         stopProcess();
-    const qint64 process = git.processId();
-    lock.relock();
-    m_running.insert(process);
-    if (m_hasEnded)
-        git.kill();
-    lock.unlock();
-    git.waitForFinished(noTimeout);
     lock.relock();
     m_running.remove(process);
-    return !m_hasEnded;
+    return m_hasEnded ? std::nullopt : std::move(output);
 }
 
 void CommandRunner::endGit()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/c_strings.h"
+
 #include <QMutex>
 #include <QSet>
 #include <QString>
@@ -8,12 +10,12 @@
 
 #include <functional>
 #include <memory>
-
-class QProcess;
+#include <optional>
 
 namespace tarnwick {
 
 class RepoViewModel;
+struct ProgramOutput;
 
 /// Starts external programs, without a shell in between and without a working directory of their
 /// own. Failures of the programs themselves show only in what they print: exit statuses are never
@@ -32,9 +34,8 @@ public:
     /// Receives what git printed, untrimmed, and the record on whose behalf it ran.
     using Completion = std::function<void(const QString& output, RepoViewModel& record)>;
 
-    explicit CommandRunner(Programs programs)
-        : m_programs(std::move(programs))
-    {}
+    /// Every git gets the environment that the process has now.
+    explicit CommandRunner(Programs programs);
 
     /// Blocks the calling thread until git has exited; there is no time-out. The completion then
     /// runs later on the main thread, and the record is kept alive until it has run.
@@ -54,10 +55,11 @@ public:
     void runOpen(const QStringList& arguments) const;
 
 private:
-    /// False if `endGit()` was called before or meanwhile.
-    [[nodiscard]] bool runToEnd(QProcess& git) const;
+    /// Null if `endGit()` was called before or meanwhile.
+    [[nodiscard]] std::optional<ProgramOutput> runToEnd(const QStringList& arguments) const;
 
-    Programs m_programs;
+    const Programs m_programs;
+    const CStrings m_gitEnvironment;
     mutable QMutex m_mutex;
     mutable QSet<qint64> m_running;
     bool m_hasEnded = false;

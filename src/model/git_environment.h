@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QProcessEnvironment>
+#include "platform/program_environment.h"
 
 namespace tarnwick {
 
@@ -9,6 +9,6 @@ namespace tarnwick {
 /// repository than the one named by "-C", and with its output in the words and the form that our
 /// parsing reads, and without any way to ask the user something. The user's git configuration stays
 /// in force, except for colour, "status.aheadBehind" and prompts.
-[[nodiscard]] QProcessEnvironment gitEnvironment(QProcessEnvironment inherited);
+[[nodiscard]] Environment gitEnvironment(Environment inherited);
 
 } // namespace tarnwick

@@ -63,6 +63,17 @@ void waitForSignals()
     }
 }
 
+QtMessageHandler messageHandler = nullptr;
+
+/// On Wayland, Qt ends the process without `exit()` when the display goes, right after it has said
+/// so; on any thread.
+void heedEndOfWayland(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (type == QtWarningMsg && message.startsWith(QLatin1String("The Wayland connection ")))
+        callAction();
+    messageHandler(type, context, message);
+}
+
 void handle(int signal)
 {
     struct sigaction action = {};
@@ -80,6 +91,7 @@ Termination::Termination(std::function<void()> action)
     actionAtEnd() = std::move(action);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, callAction);
     std::atexit(callAction);
+    messageHandler = qInstallMessageHandler(heedEndOfWayland);
     if (::pipe(channel.data()) != 0)
         return;
     for (const int end : channel)
@@ -92,6 +104,7 @@ Termination::Termination(std::function<void()> action)
 
 Termination::~Termination()
 {
+    qInstallMessageHandler(messageHandler);
     callAction();
     const std::scoped_lock lock(actionMutex);
     actionAtEnd() = nullptr;

@@ -179,7 +179,7 @@ void RepoStatusView::observe()
     follow(&RepoViewModel::isRepoChanged, &RepoStatusView::render);
     follow(&RepoViewModel::branchStringChanged, &RepoStatusView::renderBranch);
     follow(&RepoViewModel::statusStringChanged, &RepoStatusView::renderStatus);
-    follow(&RepoViewModel::isLoadingChanged, &RepoStatusView::renderSpinner);
+    connect(m_vm.get(), &RepoViewModel::isLoadingChanged, this, &RepoStatusView::renderSpinner);
     for (const auto* setting : {&m_onlyIcons, &m_showCleanRepoStatus}) {
         connect(setting, &BoundSetting::valueChanged, this, [this] {
             renderStatus();

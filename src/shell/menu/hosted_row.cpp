@@ -30,6 +30,8 @@ HostedRow::HostedRow(HostingView* view, QWidget* parent)
     layout->setContentsMargins({});
     layout->addWidget(view);
     const auto announce = [this](QAccessible::Event change) {
+        if (!QAccessible::isActive())
+            return;
         QAccessibleEvent event(this, change);
         QAccessible::updateAccessibility(&event);
     };
