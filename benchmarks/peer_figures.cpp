@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -19,7 +20,7 @@ void run(const QString& program, const QStringList& arguments)
     process.waitForFinished(-1);
 }
 
-/// The configuration of "mr" for its current folder.
+/// The configuration of "mr" for the folder around them.
 void configureMr(const QStringList& dirs)
 {
     QFile file(QDir::homePath() + QStringLiteral("/.mrconfig"));
@@ -56,8 +57,8 @@ void comparePeers(Bench& bench)
     compare(QStringLiteral("gita"), {QStringLiteral("ll")}, *list,
             [&] { run(QStringLiteral("gita"), QStringList{QStringLiteral("add")} + dirs); });
     compare(QStringLiteral("mr"),
-            {QStringLiteral("-d"), QDir::homePath(), QStringLiteral("-j"), QStringLiteral("2"),
-             QStringLiteral("status")},
+            {QStringLiteral("-d"), QFileInfo(dirs.first()).path(), QStringLiteral("-j"),
+             QStringLiteral("2"), QStringLiteral("status")},
             *list, [&] { configureMr(dirs); });
 }
 

@@ -46,8 +46,7 @@ const QPainterPath& outlineOf(const QString& glyph)
     const auto known = outlines.constFind(glyph);
     if (known != outlines.cend())
         return *known;
-    return *outlines.insert(glyph,
-                            font.pathForGlyph(font.glyphIndexesForString(glyph).value(0)));
+    return *outlines.insert(glyph, font.pathForGlyph(font.glyphIndexesForString(glyph).value(0)));
 }
 
 class SymbolIcon : public QIconEngine
