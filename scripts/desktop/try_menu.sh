@@ -132,8 +132,12 @@ fi
 
 menu_is_closed || ! has_tray || { pointer "${item[@]}"; xdotool click 1; within 2 menu_is_closed || true; }
 open_menu || { say menu "does not open again"; exit 1; }
+xdotool key k e s Right
+report keys opens "a panel" within 3 panel_is_open
+within 10 screen_at_rest || true
+picture keys
 click_outside
-report "click outside" closes "the menu" within 2 menu_is_closed
+report "click outside" closes "panel and menu" within 2 menu_is_closed
 picture closed
 
 has_tray || exit 0

@@ -46,11 +46,13 @@ END
 
 # It holds the watcher of status notifier items.
 start_kded() {
-    setpriv --pdeathsig TERM -- kded5 &
+    setpriv --pdeathsig TERM -- "kded$KDE_SESSION_VERSION" &
     gdbus wait --session --timeout 20 org.kde.StatusNotifierWatcher
 }
 
-export KDE_FULL_SESSION=true KDE_SESSION_VERSION=5
+version=6
+command -v kded6 >/dev/null || version=5
+export KDE_FULL_SESSION=true KDE_SESSION_VERSION=$version
 case $1 in
 x11)
     write_settings
