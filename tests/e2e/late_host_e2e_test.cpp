@@ -30,6 +30,9 @@ private Q_SLOTS:
             u"Open the settings (the gear) and add some repositories to get started!"_s;
         QCOMPARE(QProcess::execute(QStringLiteral(TARNWICK_PROGRAM)), 0);
         QVERIFY(windowIsActive(u"Tarnwick"_s) && !appeared(advice).name.isEmpty());
+        xdotool({u"getactivewindow"_s, u"windowminimize"_s, u"--sync"_s});
+        QCOMPARE(QProcess::execute(QStringLiteral(TARNWICK_PROGRAM)), 0);
+        QVERIFY(windowIsActive(u"Tarnwick"_s));
         key(u"Escape"_s);
         QTRY_VERIFY(accessibleNamed(advice).name.isEmpty());
 

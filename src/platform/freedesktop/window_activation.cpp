@@ -7,6 +7,7 @@ namespace tarnwick {
 
 void bringToFront(QWidget& window)
 {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.raise();
     window.activateWindow();
 }

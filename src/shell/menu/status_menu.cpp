@@ -242,7 +242,8 @@ void StatusMenu::hideEvent(QHideEvent* event)
     closeSubmenu();
     setActiveRow(nullptr);
     m_column->stopScrolling();
-    if (m_input)
+    // A window that was only minimised comes back without being opened.
+    if (m_input && !event->spontaneous())
         m_input->stop();
     if (m_backdrop)
         m_backdrop->hide();
