@@ -19,14 +19,12 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// A contrast of 4 to white and of 5 to black.
-constexpr QRgb onAnyPanel = 0xff808080;
+constexpr QRgb light = 0xfff5f5f5;
+constexpr QRgb dark = 0xff202020;
 
-/// Light or dark, whichever stands out more against the panel.
+/// Whichever stands out more against the panel.
 QColor colorOn(const QColor& panel)
 {
-    constexpr QRgb light = 0xfff5f5f5;
-    constexpr QRgb dark = 0xff202020;
     return contrast(panel, light) >= contrast(panel, dark) ? light : dark;
 }
 
@@ -125,11 +123,14 @@ void StatusItem::updateColor()
     if (!panel && m_hasSeenPanel)
         return; // it is hidden
     m_hasSeenPanel = panel.has_value();
-    const QColor color = panel ? colorOn(*panel) : onAnyPanel;
-    if (color == m_color)
+    // Where the panel is not known, one of two colours stands out.
+    const QColor color = panel ? colorOn(*panel) : light;
+    const QColor edge = panel ? QColor() : dark;
+    if (color == m_color && edge == m_edge)
         return;
     m_color = color;
-    m_icon->setIcon(symbolIcon(glyphText(glyph::statusItem), color, m_host.tintedIconName()));
+    m_edge = edge;
+    m_icon->setIcon(symbolIcon(glyphText(glyph::statusItem), color, m_host.tintedIconName(), edge));
 }
 
 QRect StatusItem::anchor() const

@@ -59,6 +59,7 @@ private:
     QRect m_anchor;
     bool m_hasSeenPanel = false;
     QColor m_color;
+    QColor m_edge;
 };
 
 } // namespace tarnwick

@@ -26,6 +26,9 @@ constexpr qreal middle = 0.36;
 
 constexpr int grid = 24;
 
+/// Of an edge, the inner half of which is covered.
+constexpr qreal edgeWidth = 2.4;
+
 QByteArray symbolFontBytes()
 {
     return QByteArray::fromRawData(reinterpret_cast<const char*>(symbolFontData.data()),
@@ -52,10 +55,11 @@ const QPainterPath& outlineOf(const QString& glyph)
 class SymbolIcon : public QIconEngine
 {
 public:
-    SymbolIcon(QString glyph, const QColor& color, QString name)
+    SymbolIcon(QString glyph, const QColor& color, QString name, const QColor& edge)
         : m_glyph(std::move(glyph))
         , m_color(color)
         , m_name(std::move(name))
+        , m_edge(edge)
     {}
 
     QString iconName() override { return m_name; }
@@ -65,7 +69,7 @@ public:
         QRect square(QPoint(), QSize(1, 1).scaled(rect.size(), Qt::KeepAspectRatio));
         square.moveCenter(rect.center());
         painter->setPen(m_color.isValid() ? m_color : labelColor(QGuiApplication::palette()));
-        drawSymbol(*painter, square, m_glyph);
+        drawSymbol(*painter, square, m_glyph, m_edge);
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
@@ -89,6 +93,7 @@ private:
     const QString m_glyph;
     const QColor m_color;
     const QString m_name;
+    const QColor m_edge;
 };
 
 } // namespace
@@ -126,19 +131,23 @@ QString symbolNamed(QStringView name)
     return symbol == namedSymbols.end() ? QString() : glyphText(symbol->codePoint);
 }
 
-QIcon symbolIcon(const QString& glyph, const QColor& color, const QString& name)
+QIcon symbolIcon(const QString& glyph, const QColor& color, const QString& name, const QColor& edge)
 {
-    return QIcon(new SymbolIcon(glyph, color, name));
+    return QIcon(new SymbolIcon(glyph, color, name, edge));
 }
 
-void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph)
+void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph, const QColor& edge)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(square.topLeft());
     painter.scale(square.width() / grid, square.height() / grid);
     painter.translate(0, (0.5 + middle) * grid);
-    painter.fillPath(outlineOf(glyph), painter.pen().color());
+    const QPainterPath& outline = outlineOf(glyph);
+    if (edge.isValid())
+        painter.strokePath(outline,
+                           QPen(edge, edgeWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.fillPath(outline, painter.pen().color());
     painter.restore();
 }
 

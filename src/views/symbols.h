@@ -29,11 +29,13 @@ namespace tarnwick {
 [[nodiscard]] QString symbolNamed(QStringView name);
 
 /// The symbol as an icon of any size; without a colour in that of labels in the application's
-/// palette at the time of painting. `name` is the icon's name in icon themes, if it has one.
+/// palette at the time of painting. `name` is the icon's name in icon themes, if it has one. An
+/// edge, if it has a colour, sets the symbol off from what is behind it.
 [[nodiscard]] QIcon symbolIcon(const QString& glyph, const QColor& color = {},
-                               const QString& name = {});
+                               const QString& name = {}, const QColor& edge = {});
 
 /// Fills the square with the glyph, in the painter's pen.
-void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph);
+void drawSymbol(QPainter& painter, const QRectF& square, const QString& glyph,
+                const QColor& edge = {});
 
 } // namespace tarnwick
