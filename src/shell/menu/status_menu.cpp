@@ -63,6 +63,7 @@ StatusMenu::StatusMenu(StatusMenu* parent)
     if (!parent) {
         m_input = std::make_unique<MenuInput>(*this);
         useBackdrop();
+        closeOnFocusLoss();
     }
 
     connect(m_column, &RowColumn::sizeHintChanged, this, [this] {
@@ -211,20 +212,25 @@ void StatusMenu::becomeKeyWindow()
 
 void StatusMenu::showFocus()
 {
-    // Keys come by way of the backdrop. Qt's newer call asks the desktop, which has nothing to
-    // give.
+    // Keys come by way of the backdrop or the menu. Qt's newer call asks the desktop, which has
+    // nothing to give.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
-    if (isOnBackdrop())
+    if (!popupsHoldInput())
         QApplication::setActiveWindow(this);
     QT_WARNING_POP
 }
 
-bool StatusMenu::event(QEvent* event)
+void StatusMenu::closeOnFocusLoss()
 {
-    if (event->type() == QEvent::WindowDeactivate && windowType() == Qt::Window)
-        pressedOutside(QCursor::pos());
-    return QWidget::event(event);
+    // What is the active window to Qt can be a submenu, see showFocus().
+    connect(qApp, &QGuiApplication::focusWindowChanged, this,
+            [this, hadFocus = false](const QWindow* focused) mutable {
+                const bool hasFocus = focused && focused == windowHandle();
+                const bool lostFocus = std::exchange(hadFocus, hasFocus) && !hasFocus;
+                if (lostFocus && isVisible() && windowType() == Qt::Window)
+                    pressedOutside(QCursor::pos());
+            });
 }
 
 void StatusMenu::showEvent(QShowEvent* event)

@@ -83,13 +83,14 @@ Q_SIGNALS:
     void aboutToShow();
 
 protected:
-    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void useBackdrop();
+    void closeOnFocusLoss();
     void openWhenInputIsFree(int attempts);
     void open();
     void occupy(const QRect& place);
