@@ -136,11 +136,11 @@ xdotool key k e s Right
 report keys opens "a panel" within 3 panel_is_open
 within 10 screen_at_rest || true
 picture keys
+has_tray || exit 0 # a window stays
 click_outside
 report "click outside" closes "panel and menu" within 2 menu_is_closed
 picture closed
 
-has_tray || exit 0
 menu_is_closed || xdotool key Escape
 pointer "${item[@]}"
 xdotool click 3
