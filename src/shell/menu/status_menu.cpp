@@ -223,9 +223,12 @@ void StatusMenu::showFocus()
 
 void StatusMenu::closeOnFocusLoss()
 {
-    // What is the active window to Qt can be a submenu, see showFocus().
+    // What is the active window to Qt can be a submenu, see showFocus(). A popup gets the focus for
+    // as long as it is open.
     connect(qApp, &QGuiApplication::focusWindowChanged, this,
             [this, hadFocus = false](const QWindow* focused) mutable {
+                if (QApplication::activePopupWidget())
+                    return;
                 const bool hasFocus = focused && focused == windowHandle();
                 const bool lostFocus = std::exchange(hadFocus, hasFocus) && !hasFocus;
                 if (lostFocus && isVisible() && windowType() == Qt::Window)
