@@ -77,10 +77,15 @@ QString FreedesktopTrayHost::literalMenuText(QString text) const
     // extension takes away the first single one and leaves the others alone.
     const bool isGnome =
         qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(QStringLiteral("GNOME"));
+    const qsizetype underscore = text.indexOf(u'_');
+    const qsizetype ampersand = text.indexOf(u'&');
     if (!isGnome)
         text.replace(u'_', QStringLiteral("__"));
-    // Qt makes an underscore of the first ampersand alone.
-    if (isGnome || text.contains(u'&'))
+    // Qt makes an underscore of the first ampersand alone. GTK 3 reads a text with an access key
+    // twice, and takes "__" for another one the second time.
+    if (!isGnome && underscore >= 0 && underscore < ampersand)
+        text[underscore] = u'&';
+    else if (isGnome || ampersand >= 0)
         text.prepend(u'&');
     return text;
 }
