@@ -83,7 +83,7 @@ private Q_SLOTS:
 
     void exportedMenuTellsTheState()
     {
-        const TemporaryRepository quiet(u"a_quiet"_s);
+        const TemporaryRepository quiet(u"a_quiet & co"_s);
         const TemporaryRepository slow(u"slow"_s);
         const RunningProgram program({{u"repos"_s, quiet.dir() + u'\n' + slow.dir()}});
         const auto told = [](int lines) {
@@ -92,7 +92,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(
             told(4),
             (QStringList{u"Tarnwick: 2 repositories watched, all clean"_s, u"Show repositories"_s,
-                         u"a__quiet, main"_s, u"slow, main"_s}),
+                         u"a__quiet & co, main"_s, u"slow, main"_s}),
             20000);
         runScript(u"exported_menu.py"_s, {u"slow"_s});
         QVERIFY(!appeared(u"Actions for slow"_s).name.isEmpty());
