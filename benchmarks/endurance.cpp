@@ -103,6 +103,8 @@ void closeWindows()
         if (qobject_cast<QMainWindow*>(window))
             window->close();
     }
+    // In the program, its event loop does that.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 } // namespace
