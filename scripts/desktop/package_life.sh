@@ -84,7 +84,7 @@ step "Removing what it was built with"
 # Those of other releases are not known here.
 # shellcheck disable=SC2016 # dpkg-query fills it in
 read -ra tools < <(awk '$1 ~ /^(build|package)/ && $2 != "git" && $2 != "ca-certificates" && $2 !~ /^python3$/ { print $2 }' \
-    "$scripts/packages.list" | xargs dpkg-query --show --showformat='${Package} ' 2>/dev/null)
+    "$scripts/packages.list" | xargs dpkg-query --show --showformat='${Package}\n' 2>/dev/null | xargs)
 apt purge --auto-remove "${tools[@]}"
 [[ $(dpkg-query -W -f='${db:Status-Status}' qt6-base-dev libqt6widgets6 2>/dev/null) != *installed* ]] ||
     fail "Qt is still there"
