@@ -20,7 +20,7 @@ using Clock = std::chrono::steady_clock;
 constexpr auto timeout = 3s;
 constexpr auto timeoutIfAwaited = 500ms;
 constexpr auto interval = 250ms;
-/// Each holds a thread, a child process and four file descriptors, of which there may be 1024.
+/// Each holds a thread, a child process and two file descriptors, of which there may be 1024.
 constexpr int maxHanging = 64;
 constexpr std::chrono::milliseconds shutdownTimeout = 1s;
 

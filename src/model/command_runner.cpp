@@ -76,18 +76,24 @@ std::optional<ProgramOutput> CommandRunner::runToEnd(const QStringList& argument
         return std::nullopt;
     lock.unlock();
     qint64 process = 0;
-    auto output = runProgram(m_programs.git, arguments, m_gitEnvironment, [&](qint64 started) {
-        process = started;
-        const QMutexLocker running(&m_mutex);
-        m_running.insert(process);
-        if (m_hasEnded)
-            ::kill(static_cast<pid_t>(process), SIGKILL);
-    });
+    auto output =
+        runProgram(m_programs.git, arguments, m_gitEnvironment, [this, &process](qint64 started) {
+            process = started;
+            addRunning(started);
+        });
     if (!output)
         stopProcess();
     lock.relock();
     m_running.remove(process);
     return m_hasEnded ? std::nullopt : std::move(output);
+}
+
+void CommandRunner::addRunning(qint64 process) const
+{
+    const QMutexLocker lock(&m_mutex);
+    m_running.insert(process);
+    if (m_hasEnded)
+        ::kill(static_cast<pid_t>(process), SIGKILL);
 }
 
 void CommandRunner::endGit()

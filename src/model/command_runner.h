@@ -57,6 +57,7 @@ public:
 private:
     /// Null if `endGit()` was called before or meanwhile.
     [[nodiscard]] std::optional<ProgramOutput> runToEnd(const QStringList& arguments) const;
+    void addRunning(qint64 process) const;
 
     const Programs m_programs;
     const CStrings m_gitEnvironment;
