@@ -91,7 +91,8 @@ Termination::Termination(std::function<void()> action)
     actionAtEnd() = std::move(action);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, callAction);
     std::atexit(callAction);
-    messageHandler = qInstallMessageHandler(heedEndOfWayland);
+    messageHandler = qInstallMessageHandler(nullptr); // other threads may need it at once
+    qInstallMessageHandler(heedEndOfWayland);
     if (::pipe(channel.data()) != 0)
         return;
     for (const int end : channel)
