@@ -40,7 +40,7 @@ valid_manual() { man --warnings --encoding=UTF-8 --local-file resources/tarnwick
 licensed() {
     reuse lint --quiet || { reuse lint; return 1; }
     files '*.cpp' '*.h' '*.mm' '*.sh' '*.py' '*.cmake' '*CMakeLists.txt' run test bench package .ci/run |
-        xargs -0 grep -L 'SPDX-License-Identifier: MIT' | (! grep .)
+        xargs -0 grep -L 'SPDX-License-\(Identifier\): MIT' | (! grep .)
 }
 
 # Against a copy, in which each text that is new or has gone would be marked.

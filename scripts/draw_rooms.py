@@ -59,7 +59,10 @@ def draw():
             lane += 1
     width, height = 2 * LEFT + WIDTH + LANE * (lane + 1), top[-1] + HEIGHT + TOP
     return "\n".join([
-        "<!-- SPDX-License-Identifier: MIT; drawn by scripts/draw_rooms.py -->",
+        "<!--",
+        "SPDX-License-" "Identifier: MIT",
+        "Drawn by scripts/draw_rooms.py.",
+        "-->",
         f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{height}">',
         "<style>",
         "text { font: 600 15px sans-serif; fill: #1f2933 }",

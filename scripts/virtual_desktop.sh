@@ -49,7 +49,7 @@ home=$(mktemp -d "${TMPDIR:-/tmp}/tarnwick-desktop.XXXXXX")
 logs=$home/logs
 pids=()
 
-# shellcheck disable=SC2317 # called at the end
+# shellcheck disable=SC2317,SC2329 # called at the end
 stop_everything() {
     trap - EXIT
     local pid
