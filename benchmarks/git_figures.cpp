@@ -13,7 +13,9 @@ namespace tarnwick::bench {
 
 namespace {
 
-void measureRefresh(Bench& bench, qsizetype listSize)
+constexpr qsizetype listSize = 100;
+
+void measureRefresh(Bench& bench)
 {
     const QStringList dirs = bench.dirs(listSize);
     const BareGit bare(dirs);
@@ -31,7 +33,7 @@ void measureRefresh(Bench& bench, qsizetype listSize)
     figure.report();
 }
 
-void measureLoad(Bench& bench, qsizetype listSize)
+void measureLoad(Bench& bench)
 {
     const QStringList dirs = bench.dirs(listSize);
     const BareGit bare(dirs);
@@ -49,7 +51,7 @@ void measureLoad(Bench& bench, qsizetype listSize)
 }
 
 /// Both maxima grow with whatever else the machine does, so they are taken from the same round.
-void measureFreeze(Bench& bench, qsizetype listSize)
+void measureFreeze(Bench& bench)
 {
     const QStringList dirs = bench.dirs(listSize);
     const BareGit bare(dirs);
@@ -117,10 +119,9 @@ void measureHuge(Bench& bench)
 
 void measureGit(Bench& bench, bool quick)
 {
-    const qsizetype listSize = quick ? 20 : 100;
-    measureRefresh(bench, listSize);
-    measureLoad(bench, listSize);
-    measureFreeze(bench, listSize);
+    measureRefresh(bench);
+    measureLoad(bench);
+    measureFreeze(bench);
     if (!quick)
         measureGrowth(bench);
     measureHuge(bench);
