@@ -3,7 +3,7 @@
 
 #include "model/git_environment.h"
 #include "platform/background_priority.h"
-#include "platform/c_strings.h"
+#include "platform/program_output.h"
 
 #include <QElapsedTimer>
 #include <QThread>

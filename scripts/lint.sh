@@ -24,7 +24,7 @@ tools=(tidy clazy)
 case ${1-} in
 --changed)
     # Each version has checks of its own.
-    clang-tidy --version | grep -q 'version 14\.' || { echo "Skipped, because only clang-tidy 14 judges."; exit 77; }
+    clang-tidy --version 2>/dev/null | grep -q 'version 14\.' || { echo "Skipped, because only clang-tidy 14 judges."; exit 77; }
     tools=(tidy) && mapfile -t files < <(changed_sources)
     ;;
 "") mapfile -t files < <(git ls-files 'src/*.cpp' 'helpers/*.cpp') ;;

@@ -5,7 +5,6 @@
 #include "model/git_environment.h"
 #include "platform/process_tree.h"
 #include "platform/program_environment.h"
-#include "platform/program_output.h"
 
 #include <QCoreApplication>
 #include <QDir>

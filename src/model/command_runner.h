@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/c_strings.h"
+#include "platform/program_output.h"
 
 #include <QMutex>
 #include <QSet>
@@ -15,7 +15,6 @@
 namespace tarnwick {
 
 class RepoViewModel;
-struct ProgramOutput;
 
 /// Starts external programs, without a shell in between and without a working directory of their
 /// own. Failures of the programs themselves show only in what they print: exit statuses are never

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/program_output.h"
 
-#include "platform/c_strings.h"
 #include "platform/memory_file.h"
 
 #include <QFile>
@@ -12,6 +11,7 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace tarnwick {
 
@@ -84,6 +84,14 @@ std::optional<pid_t> spawn(const QString& path, const QStringList& arguments,
 }
 
 } // namespace
+
+CStrings::CStrings(QList<QByteArray> texts)
+    : m_texts(std::move(texts))
+{
+    for (QByteArray& text : m_texts)
+        m_pointers.push_back(text.data());
+    m_pointers.push_back(nullptr);
+}
 
 std::optional<ProgramOutput> runProgram(const QString& path, const QStringList& arguments,
                                         const CStrings& environment,

@@ -2,14 +2,30 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QStringList>
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace tarnwick {
 
-class CStrings;
+/// Texts as the null-terminated list of C strings that the system takes as arguments or environment
+/// of a program.
+class CStrings
+{
+public:
+    explicit CStrings(QList<QByteArray> texts);
+    CStrings(const CStrings&) = delete;
+    CStrings& operator=(const CStrings&) = delete;
+
+    [[nodiscard]] char* const* data() const { return m_pointers.data(); }
+
+private:
+    QList<QByteArray> m_texts;
+    std::vector<char*> m_pointers;
+};
 
 struct ProgramOutput
 {
